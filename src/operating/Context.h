@@ -1,0 +1,42 @@
+#pragma once
+// The program's state, owned in one place and passed by reference.
+//
+// There are no mutable globals: every form model and rule is given the
+// Context it works on. One Context is one running logger.
+
+#include <memory>
+#include <string>
+
+#include "config/Settings.h"
+#include "core/Contest.h"
+#include "core/LogStore.h"
+#include "radio/RadioState.h"
+#include "rules/ContestCounters.h"
+
+namespace tarnix {
+
+struct Context {
+  std::string AppPath;         // program folder, with a trailing "/"
+  Settings Config;
+  ContestState Contest;
+  LogStore Log;
+  ContestCounters Counters;
+  RadioState Radio;
+
+  std::string LogFileName;     // full path of the open log
+  bool DialogCancelled = false;
+  bool ReloadFlag = false;     // re-read the current log without asking
+  bool NewRequested = false;
+
+  // The temporary file every new log starts in.
+  std::string TempLogFileName() const { return AppPath + "!temp%!!.tnb"; }
+};
+
+// A Context lives on the heap: the log store's tables are large.
+inline std::unique_ptr<Context> MakeContext(std::string appPath) {
+  auto ctx = std::make_unique<Context>();
+  ctx->AppPath = std::move(appPath);
+  return ctx;
+}
+
+}  // namespace tarnix

@@ -1,0 +1,83 @@
+// The entry form's calls into subsystems that are still to be written.
+//
+// Each hook is the one place its subsystem will be called from; until then it
+// does nothing, so a QSO passes through with the fields those rules would set
+// left as they stand. Each comment says what the hook is for.
+
+#include "operating/LogForm.h"
+
+namespace tarnix {
+
+// Text commands typed into the call box (R, TU3, INT5, a frequency...):
+// returns the command number, 0 for a call.
+int LogForm::ParseTextCommand() { return 0; }
+void LogForm::RunTextCommand(int) {}
+
+// Sends stored message 1..9 (F1..F7, F11, F12) by CW or voice; dual for the
+// dual CQ.
+void LogForm::SendMessageKey(int, bool) {}
+
+// Scans the log for the call and sets IsDupe, FoundInLog and DupeQSO.
+void LogForm::DupeCheck(const std::string& call) {
+  LastDupeCheckCall = call;
+  DupeCheckDone = true;
+}
+// Fills the dupe line from DupeQSO.
+void LogForm::ShowDupe() {}
+
+// The contest's exchange parser: splits and checks the exchange box, sets
+// ExchangeError with the selection to show, and may correct ParsedCall.
+void LogForm::RunExchangeParser() {}
+// WPX prefix of the call into CurrentPrefix (WPX, CQWW, All Asian).
+void LogForm::TakePrefix() {}
+// CW Open: the list of worked calls, whose length is the multiplier count.
+void LogForm::AddWorkedCall(const std::string&) {}
+// A logged call with "/" joins the portable table of the dupe check.
+void LogForm::AddPortable(const std::string&) {}
+// QRcvNumber and QRcvText from the parser's fields.
+void LogForm::TakeReceivedFields() {}
+// QPoints and QMult by the contest's rules, with NewMult and NewMultRow.
+void LogForm::ScoreEntry() {}
+// The contest's own point counters.
+void LogForm::CountContestPoints() {}
+// Splits the time since the previous QSO over bands and modes.
+void LogForm::SplitQSOTime(int) {}
+
+// Views: multiplier windows, statistics, the log viewer, the partial window.
+void LogForm::RedrawMultipliers() {}
+void LogForm::UpdateStats() {}
+void LogForm::ShowNewMult() {}
+void LogForm::UpdateLogDisplay() {}
+void LogForm::ClearPartialWindow() {}
+void LogForm::CloseViewWindows() {}
+void LogForm::CloseMessageWindows() {}
+void LogForm::ClearCallAssist() {}
+
+// Exchange pre-fill, the worked-before display and the InstaMatch lookup of
+// the exchange box's focus step.
+void LogForm::PrefillExchange() {}
+void LogForm::ShowPriorQsos() {}
+void LogForm::LookUpInstaMatch() {}
+
+// The log file: the QSO record written as file record n + 1 (returns the
+// error text on failure), the header of a new log, the temporary file, the
+// kill-all copy, the replay of an opened log and its multiplier tables.
+std::optional<std::string> LogForm::WriteLogRecord(int) { return std::nullopt; }
+void LogForm::CreateLogFile() {}
+void LogForm::DeleteTempLogFile() {}
+void LogForm::WriteKilledFile() {}
+void LogForm::EmptyLogFile() {}
+void LogForm::ReplayLogFile() {}
+void LogForm::ResetMultiplierTables() {}
+// Save As: returns true when the log was saved under a new name.
+bool LogForm::SaveAs() { return false; }
+
+// The QSO editor on QSO n: returns true when the QSO was changed.
+bool LogForm::EditQso(int) { return false; }
+
+// The settings file, written whole.
+void LogForm::WriteSettings() {}
+// Closes the Winkeyer port at exit.
+void LogForm::CloseWinkey() {}
+
+}  // namespace tarnix

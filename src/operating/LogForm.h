@@ -1,0 +1,179 @@
+#pragma once
+// LogForm: the main form, as a presentation model.
+//
+// Owns what the main window shows: the call box InData[0] and the exchange
+// box InData[1], the labels around them, the menus, the focus and the entry
+// state between QSOs. It does what the form does: logging on Enter
+// (ProcessEntry), the focus steps of the boxes, the File and Edit commands.
+// The Qt window only draws these members and forwards events.
+//
+// Runs on the user-interface thread. ProcessEntry may be re-entered only
+// through the event pump of a blocking send; it runs to its end before the
+// next key. A refused entry leaves the text in the boxes.
+//
+// Steps that belong to rules not yet present (exchange parsers, dupe check,
+// multipliers, statistics, sending, the log file) are named hooks in
+// EntryHooks.cpp; each says what it will do.
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "core/QsoRecord.h"
+#include "operating/Context.h"
+#include "operating/Keys.h"
+#include "platform/Controls.h"
+#include "platform/Platform.h"
+
+namespace tarnix {
+
+inline constexpr int CallBox = 0;
+inline constexpr int ExchangeBox = 1;
+inline constexpr int NoBox = -1;
+
+class LogForm {
+ public:
+  LogForm(Context& ctx, Platform& platform);
+
+  // ---- What the form shows ----
+  std::array<TextBox, 2> InData;
+  int FocusedBox = NoBox;     // which entry box has the focus
+  int32_t BackColor = ColourLightGrey;
+  Label FileIDLabel;          // the title line
+  Label LastQSOLabel;         // the "Last: " line over the boxes
+  Label lblCallsign{"Callsign"};
+  Label lblExchange{"Exchange"};
+  Label QSONrLabel, ScoreLabel, MultsLabel;
+  Label lblDupe, Modelabel;
+  std::array<Label, 9> PrevQSO;  // cells 1..8
+  Label LabelNeededOn, NeedPfxLabel, LblWpxCountry;
+  Label CallMatchLabel1, CallMatchLabel2, OldCallMatchLabel;
+  Label ActiveRadioLabel, LabelR1Freq, LabelR2Freq;
+  Button AddButton{"Add"};
+  Button CancelButton{"Cancel"};
+
+  MenuItem mnuFile{"&File"}, mnuFileNewLog{"&New Log"}, mnuFileOpenLog{"&Open Log"},
+      mnuFileSave{"Save &As..."}, mnuFileBackup{"&Backup"}, mnuFileSetup{"&Preferences..."},
+      mnuFileExit{"E&xit"};
+  MenuItem mnuEdit{"&Edit"}, mnuEditLastEntry{"&Edit Last Entry"},
+      mnuEditKillLastEntry{"&Kill Last Entry"}, mnuEditKillALLEntries{"Kill &ALL Entries"},
+      mnuEditSelectBands{"Select &Bands..."}, mnuEditCW{"&CW Messages..."};
+  MenuItem mnuView{"&View"}, mnuViewMults{"&Multipliers"}, mnuViewCACounties{"&CA Counties"},
+      mnuViewARRLUSVEMults{"&US/VE Multipliers"}, mnuViewZnCty{"&Zones/Countries"},
+      mnuViewCW{"CW &Messages"}, mnuViewDvK{"&Voice Keyer"};
+  MenuItem mnuRadioWK{"&Radio"};
+
+  // ---- Entry state ----
+  QsoRecord EntryRecord;          // the record being built; keeps its values
+  bool ExchangeError = false;     // set by a parser that refused
+  int ErrorSelStart = 0, ErrorSelLength = 0;
+  bool ParserReopenedBox = false; // the SS parser reopened the box itself
+  std::string ParsedCall;         // the call as the parser leaves it
+  bool IsDupe = false, FoundInLog = false;
+  int16_t DupeQSO = 0;
+  bool CountyLine = false;
+  bool CountyLineRepeat = false;  // the CQP parser has filled the fields itself
+  bool NewMult = false;
+  int16_t NewMultRow = 0;
+  bool ApostropheLogged = false;
+  bool LastMsgCallCorrect = false;
+  int16_t TUInterval = 1, TUCount = 1;
+  bool KeepMatchLabels = false;
+  std::string CurrentPrefix;
+  std::string LastLine;           // the last "Last: " line, for a reload
+  std::string LastDupeCheckCall;  // the call of the last dupe check
+  bool DupeCheckDone = false;     // LastDupeCheckCall is valid
+
+  // ---- What the form does ----
+  void Form_Load();
+  // Moves the focus, running the lost- and got-focus steps of the boxes.
+  void SetFocus(int box);
+  // Key-down in an entry box; returns true when the key was used up.
+  bool InData_KeyDown(int box, int keyCode, int shift);
+  // A typed character: upper-cased, or discarded, then put at the caret.
+  void InData_KeyPress(int box, char keyAscii);
+  // Text typed or edited in a box by the view's own editing keys.
+  void InData_Change(int box, const std::string& text, int selStart);
+  void ProcessEntry(int box, int shift);
+  void ClearEntry();
+  void ShowLast();
+  void AddButton_Click();
+  void CancelButton_Click();
+
+  void mnuFileNewLog_Click();
+  // Returns true when the program is to end.
+  bool mnuFileExit_Click();
+  void mnuEditKillLastEntry_Click();
+  void mnuEditKillALLEntries_Click();
+  void mnuEditLastEntry_Click();
+  void mnuEditSelectBands_Click();
+
+  void RedrawQSONrLabel();
+  void RedrawScore();
+
+ private:
+  // Entry steps (ProcessEntry.cpp).
+  bool CheckAge();
+  void TakeTime();
+  void TakeCall();
+  void TakeRadioAndFrequency();
+  void StoreEntry();
+  void CountTime(int n);
+  bool WriteEntry();
+  void SendFollowUp(int shift);
+  void InData_GotFocus(int box);
+  void InData_LostFocus(int box);
+
+  // Log steps (LogForm.cpp).
+  void OpenNewLog();
+  void ReloadLog();
+  void AfterHeader(bool isNew);
+  void SetMenusForContest();
+  bool HasLog() const;
+
+  // Hooks for rules still to come (EntryHooks.cpp).
+  int ParseTextCommand();
+  void RunTextCommand(int command);
+  void SendMessageKey(int message, bool dual);
+  void DupeCheck(const std::string& call);
+  void ShowDupe();
+  void RunExchangeParser();
+  void TakePrefix();
+  void AddWorkedCall(const std::string& call);
+  void AddPortable(const std::string& call);
+  void TakeReceivedFields();
+  void ScoreEntry();
+  void CountContestPoints();
+  void SplitQSOTime(int n);
+  void RedrawMultipliers();
+  void UpdateStats();
+  void ShowNewMult();
+  void UpdateLogDisplay();
+  void PrefillExchange();
+  void ShowPriorQsos();
+  void LookUpInstaMatch();
+  void ClearPartialWindow();
+  std::optional<std::string> WriteLogRecord(int n);
+  void CreateLogFile();
+  void DeleteTempLogFile();
+  void WriteKilledFile();
+  void EmptyLogFile();
+  void ReplayLogFile();
+  void ResetMultiplierTables();
+  void CloseViewWindows();
+  void CloseMessageWindows();
+  void ClearCallAssist();
+  bool SaveAs();
+  bool EditQso(int n);
+  void WriteSettings();
+  void CloseWinkey();
+
+  MsgAnswer Ask(const std::string& text, const std::string& title, MsgButtons buttons, MsgAnswer dflt,
+                MsgIcon icon = MsgIcon::Question);
+  void Tell(const std::string& text, const std::string& title, MsgIcon icon = MsgIcon::Exclamation);
+
+  Context& Ctx;
+  Platform& Desk;
+};
+
+}  // namespace tarnix

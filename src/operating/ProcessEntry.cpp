@@ -1,0 +1,412 @@
+// The Enter key: from the two entry boxes to a logged QSO.
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <stdexcept>
+
+#include "core/Bands.h"
+#include "core/QDate.h"
+#include "core/Text.h"
+#include "operating/LogForm.h"
+
+namespace tarnix {
+namespace {
+
+bool OneOf(int value, std::initializer_list<int> set) {
+  for (int v : set)
+    if (v == value) return true;
+  return false;
+}
+
+// Frequency text of a record: shortest decimal form, at most ten characters.
+std::string FrequencyText(float kHz) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%g", static_cast<double>(kHz));
+  return std::string(text).substr(0, 10);
+}
+
+// The fields of a QSO that follow the call on the "Last: " line.
+std::string ContestFieldsText(int contest, const QsoRecord& r) {
+  if (contest == Generic) return Trim(r.QRcvText.Str() + r.QMult.Str());
+  std::string text;
+  auto add = [&text](const std::string& field) {
+    if (field.empty()) return;
+    if (!text.empty()) text += "  ";
+    text += field;
+  };
+  if (r.QRcvNumber != 0) add(std::to_string(r.QRcvNumber));
+  add(r.QRcvText.Trimmed());
+  add(r.QMult.Trimmed());
+  return text;
+}
+
+}  // namespace
+
+void LogForm::ProcessEntry(int box, int shift) {
+  ContestState& contest = Ctx.Contest;
+  LogStore& log = Ctx.Log;
+  const int c = contest.ContestIndex;
+
+  NewMult = false;
+  if (int command = ParseTextCommand(); command != 0) {
+    bool repeatApplies = log.QSOCount > 1 && OneOf(c, {ArrlDx, Cqww, Naqp});
+    if (command != 1 || repeatApplies) {
+      RunTextCommand(command);
+      return;
+    }
+  }
+
+  if (Trim(InData[CallBox].Text).empty()) {
+    if (Ctx.Config.SendF1Enabled && !(shift & ShiftMask)) SendMessageKey(1, false);
+    SetFocus(CallBox);
+    return;
+  }
+
+  if (InData[CallBox].Text.size() > 10) {
+    std::string first10 = InData[CallBox].Text.substr(0, 10);
+    if (Ask("Only 10 characters allowed for Callsign.  Truncate entry to " + first10 + "?", "Entry Too Long",
+            MsgButtons::YesNo, MsgAnswer::Yes) != MsgAnswer::Yes) {
+      SetFocus(CallBox);
+      return;
+    }
+    InData[CallBox].Text = first10;
+  }
+
+  if (box == CallBox) {
+    DupeCheck(Trim(InData[CallBox].Text));
+    if (IsDupe) ShowDupe();
+  }
+
+  ParsedCall = Trim(InData[CallBox].Text);
+  if (c == AllAsian) {
+    if (!CheckAge()) return;
+  } else {
+    RunExchangeParser();
+  }
+  if (ParserReopenedBox) {
+    ParserReopenedBox = false;
+    return;
+  }
+  if (ExchangeError) {
+    InData[ExchangeBox].SelStart = ErrorSelStart;
+    InData[ExchangeBox].SelLength = ErrorSelLength;
+    SetFocus(ExchangeBox);
+    ExchangeError = false;
+    return;
+  }
+
+  InData[CallBox].ForeColor = ColourBlack;
+  if (OneOf(c, {Wpx, Cqww, AllAsian})) TakePrefix();
+
+  try {
+    TakeTime();
+    TakeCall();
+    if (!CountyLineRepeat) {
+      EntryRecord.QRcvNumber = 0;
+      if (c == AllAsian) EntryRecord.QRcvNumber = static_cast<int16_t>(RoundEven(Val(InData[ExchangeBox].Text)));
+      TakeReceivedFields();
+      if (IsDupe) EntryRecord.QPoints.Set("0");
+      EntryRecord.QNumber = log.QSOCount;
+      ScoreEntry();
+      TakeRadioAndFrequency();
+    }
+    StoreEntry();
+
+    int points = static_cast<int>(Val(EntryRecord.QPoints.Str()));
+    log.TotalQSOPoints += points;
+    log.BandPoints[static_cast<std::size_t>(contest.BandIndex)] += static_cast<int16_t>(points);
+    CountContestPoints();
+    if (c != ArrlDx && c != Ten && NewMult) {
+      ++log.TotalMults;
+      ++log.BandMults[static_cast<std::size_t>(contest.BandIndex)];
+    }
+    CountTime(log.QSOCount);
+    RedrawMultipliers();
+    if (!WriteEntry()) return;
+  } catch (const std::out_of_range& error) {
+    // The bound of the log's tables is the limit of the log: the QSO is
+    // refused with the error's own text.
+    Tell(error.what(), "TARNIX", MsgIcon::Critical);
+    return;
+  }
+
+  ClearEntry();
+
+  if (c == Cqp && CountyLine) {
+    const QsoRecord& last = log.LogRecords.At(log.QSOCount - 1);
+    InData[CallBox].Text = last.QCall.Trimmed();
+    InData[ExchangeBox].Text = std::to_string(last.QRcvNumber);
+    InData[ExchangeBox].SelStart = static_cast<int>(InData[ExchangeBox].Text.size());
+    InData[ExchangeBox].SelLength = 0;
+    SetFocus(ExchangeBox);
+    return;
+  }
+  SendFollowUp(shift);
+}
+
+// The age test of the All Asian contest, which has no parser: an empty box or
+// a value outside 0..99 is refused. Text that is no number is 0 and passes.
+bool LogForm::CheckAge() {
+  TextBox& exchange = InData[ExchangeBox];
+  double age = Val(exchange.Text);
+  if (!Trim(exchange.Text).empty() && age >= 0 && age <= 99) return true;
+  Tell("Enter two-digit age between 00 and 99.", "Must Enter Received Age", MsgIcon::Critical);
+  exchange.SelStart = 0;
+  exchange.SelLength = static_cast<int>(exchange.Text.size());
+  SetFocus(ExchangeBox);
+  return false;
+}
+
+void LogForm::TakeTime() {
+  LocalDateTime now = Desk.Time.Now();
+  int hour = now.Hour;
+  int dayOffset = 0;
+  if (Ctx.Config.IsGMTFlag != "True") {
+    hour += static_cast<int>(RoundEven(Val(Ctx.Config.TimeCorrection)));
+    if (hour > 23) {
+      hour -= 24;
+      dayOffset = 1;
+    } else if (hour < 0) {
+      hour += 24;
+      dayOffset = -1;
+    }
+  }
+  EntryRecord.QTime = static_cast<int16_t>(hour * 100 + now.Minute);
+  EntryRecord.QDate = GetGMTDate({now.Year, now.Month, now.Day}, dayOffset);
+  EntryRecord.QBand = Ctx.Contest.BandIndex;
+}
+
+void LogForm::TakeCall() {
+  LogStore& log = Ctx.Log;
+  std::string call = RemoveChars(ParsedCall, ".?");
+  EntryRecord.QCall.Set(call);
+  std::string c = EntryRecord.QCall.Trimmed();
+  int n = log.QSOCount;
+  log.CallSum.At(n - 1) = CharSum(c);
+  log.CallText.At(n - 1) = c;
+  int band = Ctx.Contest.BandIndex;
+  IndexFindCall(log, c + static_cast<char>('0' + band / 10 % 10) + static_cast<char>('0' + band % 10), false);
+  if (Ctx.Contest.ContestIndex == CwOpen) AddWorkedCall(c);
+  if (c.find('/') != std::string::npos) AddPortable(c);
+}
+
+void LogForm::TakeRadioAndFrequency() {
+  const RadioState& radio = Ctx.Radio;
+  int active = radio.ActiveRadio;
+  EntryRecord.QRadio.Set(active == 1 ? "1" : active == 2 ? "2" : "0");
+  float kHz = 0;
+  if ((active == 1 || active == 2) && radio.RadioRunning[static_cast<std::size_t>(active)]) {
+    float f = radio.LastFreqByBand[static_cast<std::size_t>(active)][static_cast<std::size_t>(Ctx.Contest.BandIndex)];
+    if (f >= 1800 && f <= 29700) kHz = f;
+  }
+  EntryRecord.QFreq.Set(FrequencyText(kHz));
+}
+
+void LogForm::StoreEntry() {
+  LogStore& log = Ctx.Log;
+  if (Ctx.Contest.ContestIndex == Generic) {
+    std::string notes = UCase(Trim(InData[ExchangeBox].Text));
+    EntryRecord.QRcvText.Set(notes.substr(0, 10));
+    EntryRecord.QMult.Set(notes.size() > 10 ? notes.substr(10, 5) : "");
+  }
+  log.LogRecords.At(log.QSOCount) = EntryRecord;
+  ++log.BandQSOs[static_cast<std::size_t>(Ctx.Contest.BandIndex)];
+  ShowLast();
+}
+
+void LogForm::ShowLast() {
+  const QsoRecord& r = EntryRecord;
+  LastLine = "Last: " + QDateText(r.QDate) + "  " + QTimeText(r.QTime) + "  " +
+             (IsCWBand(r.QBand) ? "CW " : "SSB") + "  " + r.QCall.Trimmed();
+  std::string fields = ContestFieldsText(Ctx.Contest.ContestIndex, r);
+  if (!fields.empty()) LastLine += "  " + fields;
+  LastQSOLabel.Caption = LastLine;
+  LastQSOLabel.Visible = true;
+}
+
+// Minute stamp, contest day and the running operating-time counters.
+void LogForm::CountTime(int n) {
+  LogStore& log = Ctx.Log;
+  StampQsoMinute(log, n);
+  if (n == 1) {
+    log.RunOnBand = 0;
+    return;
+  }
+  SplitQSOTime(n);
+  int gap = log.QsoMinute.At(n) - log.QsoMinute.At(n - 1);
+  bool sameBand = log.LogRecords.At(n).QBand == log.LogRecords.At(n - 1).QBand;
+  if (!sameBand) log.RunOnBand = 0;
+  if (gap > 0 && gap <= Ctx.Contest.OffTimeLimit) {
+    log.OperatingMinutes += static_cast<float>(gap);
+    if (sameBand) log.RunOnBand = static_cast<int16_t>(log.RunOnBand + gap);
+  }
+}
+
+// Writes the record to the log file. On a file error the operator chooses:
+// retry writes again, ignore goes on without it, abort leaves the entry. The
+// QSO stays in memory in every case; QSOCount moves on only once the record
+// is on disk. Returns false on abort.
+bool LogForm::WriteEntry() {
+  LogStore& log = Ctx.Log;
+  bool written = false;
+  for (;;) {
+    log.LogRecords.At(log.QSOCount) = EntryRecord;
+    std::optional<std::string> error = WriteLogRecord(log.QSOCount);
+    if (!error) {
+      written = true;
+      break;
+    }
+    MsgAnswer answer = Ask(*error + "\n\nThe QSO is kept in memory but is not yet in the log file.",
+                           "Log File Error", MsgButtons::AbortRetryIgnore, MsgAnswer::Retry, MsgIcon::Critical);
+    if (answer == MsgAnswer::Retry) continue;
+    if (answer == MsgAnswer::Ignore) break;
+    return false;
+  }
+  if (written) ++log.QSOCount;
+  UpdateStats();
+  ShowNewMult();
+  UpdateLogDisplay();
+  return true;
+}
+
+void LogForm::SendFollowUp(int shift) {
+  if ((shift & ShiftMask) || (shift & CtrlMask) || !LastMsgCallCorrect) return;
+  if (ApostropheLogged) {
+    if (Ctx.Config.LogandSendF6Enabled) SendMessageKey(6, false);
+    return;
+  }
+  if (!Ctx.Config.LogandSendF5Enabled) return;
+  if (TUInterval < 1 || TUInterval > 9 || TUCount < 1 || TUCount > 9) TUInterval = TUCount = 1;
+  if (TUCount < TUInterval) {
+    SendMessageKey(6, false);
+    ++TUCount;
+  } else {
+    SendMessageKey(5, false);
+    TUCount = 1;
+  }
+}
+
+void LogForm::ClearEntry() {
+  for (Label* label : {&Modelabel, &LabelNeededOn, &NeedPfxLabel, &LblWpxCountry, &CallMatchLabel1,
+                       &CallMatchLabel2, &OldCallMatchLabel, &lblDupe})
+    label->Visible = false;
+  for (int i = 1; i <= 8; ++i) PrevQSO[static_cast<std::size_t>(i)].Visible = false;
+  lblExchange.Visible = true;
+  lblCallsign.Visible = true;
+  for (TextBox& box : InData) {
+    box.Text.clear();
+    box.SelStart = box.SelLength = 0;
+  }
+  InData[CallBox].ForeColor = ColourBlack;
+  DupeCheckDone = false;
+  SetFocus(CallBox);
+  RedrawQSONrLabel();
+  RedrawScore();
+  ClearPartialWindow();
+}
+
+void LogForm::RedrawQSONrLabel() {
+  int band = Ctx.Contest.BandIndex;
+  if (band < 1 || band > BandIndexCount) return;
+  QSONrLabel.Caption = "QSO Nr " + NumberText(Ctx.Log.QSOCount) + "    (" + BandName(BandRow(band)) +
+                       (IsCWBand(band) ? " CW)" : " SSB)");
+}
+
+void LogForm::RedrawScore() {
+  LogStore& log = Ctx.Log;
+  if (Ctx.Contest.ContestIndex == Paqp)
+    log.ClaimedScore = static_cast<int32_t>(RoundEven(log.TotalQSOPoints / 10.0 * log.TotalMults));
+  else
+    log.ClaimedScore = log.TotalQSOPoints * log.TotalMults;
+  if (Ctx.Contest.ContestIndex == Generic) {
+    ScoreLabel.Caption = " CW Cties: " + std::to_string(CountriesWorked(Ctx.Counters.CWCountryCount));
+    MultsLabel.Caption = "SSB Cties: " + std::to_string(CountriesWorked(Ctx.Counters.SSBCountryCount));
+  } else {
+    ScoreLabel.Caption = "Score: " + Grouped(log.ClaimedScore);
+    MultsLabel.Caption = "Mults:  " + std::to_string(log.TotalMults);
+  }
+}
+
+void LogForm::SetFocus(int box) {
+  if (box == FocusedBox) return;
+  int old = FocusedBox;
+  FocusedBox = box;
+  if (old != NoBox) InData_LostFocus(old);
+  if (box != NoBox) InData_GotFocus(box);
+}
+
+// Entering the exchange box shows the dupe before logging, and pre-fills the
+// exchange when the rules know it.
+void LogForm::InData_GotFocus(int box) {
+  if (box != ExchangeBox) return;
+  if (Ctx.Contest.ContestIndex == Cqp && CountyLine) return;
+  if (ExchangeError) return;
+  std::string call = Trim(InData[CallBox].Text);
+  if (!DupeCheckDone || call != LastDupeCheckCall) DupeCheck(call);
+  if (IsDupe) {
+    InData[CallBox].ForeColor = ColourRed;
+    ShowDupe();
+  }
+  if (Ctx.Contest.ContestIndex != Cqww && InData[ExchangeBox].Text.empty()) PrefillExchange();
+  if (FoundInLog) ShowPriorQsos();
+  else LookUpInstaMatch();
+}
+
+void LogForm::InData_LostFocus(int box) {
+  if (box != CallBox) return;
+  if (KeepMatchLabels) {
+    KeepMatchLabels = false;
+    return;
+  }
+  CallMatchLabel1.Visible = CallMatchLabel2.Visible = OldCallMatchLabel.Visible = false;
+}
+
+bool LogForm::InData_KeyDown(int box, int keyCode, int shift) {
+  if (!HasLog()) return false;
+  ApostropheLogged = false;
+  switch (keyCode) {
+    case KeyEnter:
+      ProcessEntry(box, shift);
+      return true;
+    case KeySpace: {
+      int c = Ctx.Contest.ContestIndex;
+      if (OneOf(c, {ArrlDx, Wpx, AllAsian, Ten, Neqp})) {
+        SetFocus(box == CallBox ? ExchangeBox : CallBox);
+        return true;
+      }
+      if (box == CallBox) {
+        SetFocus(ExchangeBox);
+        return true;
+      }
+      return false;  // an ordinary blank in a multi-field exchange
+    }
+    default:
+      return false;
+  }
+}
+
+void LogForm::InData_KeyPress(int box, char keyAscii) {
+  if (!HasLog()) return;
+  char ch = static_cast<char>(std::toupper(static_cast<unsigned char>(keyAscii)));
+  if (ch == '"' || ch == '\'') return;
+  TextBox& b = InData[static_cast<std::size_t>(box)];
+  int start = std::min(b.SelStart, static_cast<int>(b.Text.size()));
+  int length = std::min(b.SelLength, static_cast<int>(b.Text.size()) - start);
+  b.Text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(length), 1, ch);
+  b.SelStart = start + 1;
+  b.SelLength = 0;
+}
+
+void LogForm::InData_Change(int box, const std::string& text, int selStart) {
+  TextBox& b = InData[static_cast<std::size_t>(box)];
+  b.Text = text;
+  b.SelStart = selStart;
+  b.SelLength = 0;
+}
+
+void LogForm::AddButton_Click() { ProcessEntry(FocusedBox == ExchangeBox ? ExchangeBox : CallBox, 0); }
+
+void LogForm::CancelButton_Click() { ClearEntry(); }
+
+}  // namespace tarnix
