@@ -60,14 +60,18 @@ void ChooseContest(ScriptedPlatform& desk, int contest, bool phone) {
   });
 }
 
-// What an operator does for one line: the first word into the call box, the
-// focus to the exchange box, the rest (if any) as the exchange, and Enter.
+// What an operator does for one line: the first word typed into the call
+// box, the focus to the exchange box, the rest (if any) as the exchange, and
+// Enter. Text left in the boxes by a refused entry is cleared first, as the
+// operator would overtype it.
 void EnterLine(LogForm& form, const std::string& line) {
   std::string trimmed = Trim(line);
   std::size_t blank = trimmed.find(' ');
   std::string call = trimmed.substr(0, blank);
   std::string rest = blank == std::string::npos ? std::string() : LTrim(trimmed.substr(blank));
   form.SetFocus(CallBox);
+  form.InData_Change(CallBox, "", 0);
+  form.InData_Change(ExchangeBox, "", 0);
   for (char c : call) form.InData_KeyPress(CallBox, c);
   form.SetFocus(ExchangeBox);
   if (!rest.empty()) form.InData_Change(ExchangeBox, rest, static_cast<int>(rest.size()));

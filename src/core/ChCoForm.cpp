@@ -61,6 +61,7 @@ void ChCoForm::List1_Click(int position) {
       SetOption(ButtonQTH[0], " US/VE", true);
       SetOption(ButtonQTH[1], " DX", false);
       ButtonQTH[2].Visible = false;
+      ButtonQTH[2].Value = false;
       break;
     case Cqww:
     case Wpx:

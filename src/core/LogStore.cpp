@@ -6,12 +6,16 @@ namespace tarnix {
 
 void ThrowSubscript() { throw std::out_of_range("Subscript out of range"); }
 
+CallIndexEntry::CallIndexEntry(std::string_view text) {
+  Length = static_cast<uint8_t>(std::min(text.size(), Bytes.size()));
+  std::copy_n(text.begin(), Length, Bytes.begin());
+}
+
 int IndexFindCall(LogStore& log, std::string_view key, bool searchOnly) {
   int lo = 1, hi = log.CallIndexCount;
   while (lo <= hi) {
     int mid = (lo + hi) / 2;
-    const std::string& entry = log.CallIndex.At(mid);
-    std::string_view call(entry.data(), entry.size() >= 2 ? entry.size() - 2 : 0);
+    std::string_view call = log.CallIndex.At(mid).Call();
     if (call == key) return mid;
     if (call < key) lo = mid + 1;
     else hi = mid - 1;
@@ -21,8 +25,8 @@ int IndexFindCall(LogStore& log, std::string_view key, bool searchOnly) {
 
   int count = log.CallIndexCount + 1;
   log.CallIndex.At(count);  // the bound of the index is the bound of the log
-  for (int i = count; i > place; --i) log.CallIndex.At(i) = std::move(log.CallIndex.At(i - 1));
-  log.CallIndex.At(place) = std::string(key);
+  log.CallIndex.ShiftUp(place, count - 1);
+  log.CallIndex.At(place) = CallIndexEntry(key);
   log.CallIndexCount = static_cast<int16_t>(count);
   return place;
 }

@@ -10,6 +10,7 @@
 // QSOCount is the number the next QSO will get: an empty log has 1.
 // Everything here runs on the user-interface thread.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -35,6 +36,12 @@ class FixedTable {
   T& At(int i) { return Items.at(Slot(i)); }
   const T& At(int i) const { return Items.at(Slot(i)); }
   void Fill(const T& value) { std::fill(Items.begin(), Items.end(), value); }
+  // Moves elements first..last up by one place (last + 1 must exist).
+  void ShiftUp(int first, int last) {
+    if (first > last) return;
+    At(last + 1);
+    std::move_backward(Items.begin() + Slot(first), Items.begin() + Slot(last) + 1, Items.begin() + Slot(last) + 2);
+  }
 
  private:
   static std::size_t Slot(int i);
@@ -49,13 +56,27 @@ std::size_t FixedTable<T, Low, High>::Slot(int i) {
   return static_cast<std::size_t>(i - Low);
 }
 
+// An entry of the sorted call index: a call of up to ten characters followed
+// by two digits of its BandIndex ("K3ZZZ05"). Kept as plain bytes so that an
+// insert shifts the index with one memory move.
+struct CallIndexEntry {
+  uint8_t Length = 0;
+  std::array<char, 12> Bytes{};
+
+  CallIndexEntry() = default;
+  explicit CallIndexEntry(std::string_view text);
+  std::string_view Text() const { return {Bytes.data(), Length}; }
+  // The entry less its two band digits.
+  std::string_view Call() const { return Text().substr(0, Length >= 2 ? Length - 2u : 0u); }
+};
+
 enum class LogStateKind : int16_t { None = 0, Unnamed = 1, Named = 2 };
 
 struct LogStore {
   FixedTable<QsoRecord, 0, MaxQsos> LogRecords;        // QSO n at n; 0 unused
   FixedTable<QsoRecord, 0, MaxQsos> LogRecordsShort;   // old 26-byte logs
   FixedTable<QsoRecord, 0, MaxQsosMid> LogRecordsMid;  // old 36-byte logs
-  FixedTable<std::string, 0, MaxQsos> CallIndex;       // entries 1..CallIndexCount
+  FixedTable<CallIndexEntry, 0, MaxQsos> CallIndex;    // entries 1..CallIndexCount
   int16_t CallIndexCount = 0;
   FixedTable<int16_t, 0, MaxQsos - 1> CallSum;         // QSO n at n - 1
   FixedTable<std::string, 0, MaxQsos - 1> CallText;    // QSO n at n - 1

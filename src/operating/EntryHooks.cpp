@@ -38,6 +38,8 @@ void LogForm::AddPortable(const std::string&) {}
 void LogForm::TakeReceivedFields() {}
 // QPoints and QMult by the contest's rules, with NewMult and NewMultRow.
 void LogForm::ScoreEntry() {}
+// The multiplier step of QSO n when a log is replayed.
+void LogForm::ScoreReplayed(int) {}
 // The contest's own point counters.
 void LogForm::CountContestPoints() {}
 // Splits the time since the previous QSO over bands and modes.

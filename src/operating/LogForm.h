@@ -94,6 +94,13 @@ class LogForm {
   void InData_KeyPress(int box, char keyAscii);
   // Text typed or edited in a box by the view's own editing keys.
   void InData_Change(int box, const std::string& text, int selStart);
+  // The caret or selection moved in a box by the mouse or the view's own
+  // keys, so the next typed character lands where the operator sees it.
+  void InData_SelChange(int box, int selStart, int selLength) {
+    TextBox& b = InData[static_cast<std::size_t>(box)];
+    b.SelStart = selStart;
+    b.SelLength = selLength;
+  }
   void ProcessEntry(int box, int shift);
   void ClearEntry();
   void ShowLast();
@@ -110,12 +117,19 @@ class LogForm {
 
   void RedrawQSONrLabel();
   void RedrawScore();
+  // Rebuilds every counter of the log store from the records 1..count-1 in
+  // LogRecords, as the logging step counted them; QSOCount becomes count.
+  // Used when a log is loaded. Never writes to the file.
+  void ReplayLog(int count);
 
  private:
   // Entry steps (ProcessEntry.cpp).
   bool CheckAge();
   void TakeTime();
   void TakeCall();
+  void IndexCall(int n, const std::string& call, int band);
+  void ListCall(const std::string& call);
+  void CountPoints(const QsoRecord& qso);
   void TakeRadioAndFrequency();
   void StoreEntry();
   void CountTime(int n);
@@ -143,6 +157,7 @@ class LogForm {
   void AddPortable(const std::string& call);
   void TakeReceivedFields();
   void ScoreEntry();
+  void ScoreReplayed(int n);
   void CountContestPoints();
   void SplitQSOTime(int n);
   void RedrawMultipliers();

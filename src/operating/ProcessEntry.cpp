@@ -113,14 +113,7 @@ void LogForm::ProcessEntry(int box, int shift) {
     }
     StoreEntry();
 
-    int points = static_cast<int>(Val(EntryRecord.QPoints.Str()));
-    log.TotalQSOPoints += points;
-    log.BandPoints[static_cast<std::size_t>(contest.BandIndex)] += static_cast<int16_t>(points);
-    CountContestPoints();
-    if (c != ArrlDx && c != Ten && NewMult) {
-      ++log.TotalMults;
-      ++log.BandMults[static_cast<std::size_t>(contest.BandIndex)];
-    }
+    CountPoints(EntryRecord);
     CountTime(log.QSOCount);
     RedrawMultipliers();
     if (!WriteEntry()) return;
@@ -178,17 +171,61 @@ void LogForm::TakeTime() {
 }
 
 void LogForm::TakeCall() {
-  LogStore& log = Ctx.Log;
-  std::string call = RemoveChars(ParsedCall, ".?");
-  EntryRecord.QCall.Set(call);
+  EntryRecord.QCall.Set(UCase(RemoveChars(ParsedCall, ".?")));
   std::string c = EntryRecord.QCall.Trimmed();
-  int n = log.QSOCount;
-  log.CallSum.At(n - 1) = CharSum(c);
-  log.CallText.At(n - 1) = c;
-  int band = Ctx.Contest.BandIndex;
-  IndexFindCall(log, c + static_cast<char>('0' + band / 10 % 10) + static_cast<char>('0' + band % 10), false);
-  if (Ctx.Contest.ContestIndex == CwOpen) AddWorkedCall(c);
-  if (c.find('/') != std::string::npos) AddPortable(c);
+  IndexCall(Ctx.Log.QSOCount, c, Ctx.Contest.BandIndex);
+  ListCall(c);
+}
+
+// The call of QSO n in the dupe scan's arrays and the sorted call index.
+void LogForm::IndexCall(int n, const std::string& call, int band) {
+  LogStore& log = Ctx.Log;
+  log.CallSum.At(n - 1) = CharSum(call);
+  log.CallText.At(n - 1) = call;
+  IndexFindCall(log, call + static_cast<char>('0' + band / 10 % 10) + static_cast<char>('0' + band % 10), false);
+}
+
+// The lists a call joins: the CW Open's worked calls, the portable table.
+void LogForm::ListCall(const std::string& call) {
+  if (Ctx.Contest.ContestIndex == CwOpen) AddWorkedCall(call);
+  if (call.find('/') != std::string::npos) AddPortable(call);
+}
+
+// Points and a new multiplier of a counted QSO go to the totals and to the
+// counters of its band.
+void LogForm::CountPoints(const QsoRecord& qso) {
+  LogStore& log = Ctx.Log;
+  auto band = static_cast<std::size_t>(qso.QBand);
+  int points = static_cast<int>(Val(qso.QPoints.Str()));
+  log.TotalQSOPoints += points;
+  log.BandPoints.at(band) = static_cast<int16_t>(log.BandPoints.at(band) + points);
+  CountContestPoints();
+  int c = Ctx.Contest.ContestIndex;
+  if (c != ArrlDx && c != Ten && NewMult) {
+    ++log.TotalMults;
+    ++log.BandMults.at(band);
+  }
+}
+
+void LogForm::ReplayLog(int count) {
+  LogStore& log = Ctx.Log;
+  log.QSOCount = static_cast<int16_t>(count);
+  for (int n = 1; n < count; ++n) {
+    QsoRecord& qso = log.LogRecords.At(n);
+    if (qso.QBand < 1 || qso.QBand > BandIndexCount) qso.QBand = 16;
+    std::string call = qso.QCall.Trimmed();
+    IndexCall(n, call, qso.QBand);
+    // A voided QSO keeps its number and its place in the call arrays, but
+    // counts for nothing.
+    if (UCase(call) != "VOID") {
+      ++log.BandQSOs.at(static_cast<std::size_t>(qso.QBand));
+      ListCall(call);
+      NewMult = false;
+      ScoreReplayed(n);
+      CountPoints(qso);
+    }
+    CountTime(n);
+  }
 }
 
 void LogForm::TakeRadioAndFrequency() {

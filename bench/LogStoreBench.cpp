@@ -1,0 +1,88 @@
+// Speed of the log store and the entry path at the log's full size.
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <vector>
+
+#include "core/ChCoForm.h"
+#include "core/LogStore.h"
+#include "operating/LogForm.h"
+#include "platform/Scripted.h"
+
+namespace {
+
+using namespace tarnix;
+
+// 8000 distinct, realistic-looking calls in a scrambled order.
+std::vector<std::string> MakeCalls(int count) {
+  static const char* const kPrefixes[] = {"K", "W", "N", "AA", "DL", "G", "JA", "VE", "OH", "PY"};
+  std::vector<std::string> calls;
+  unsigned seed = 12345;
+  for (int i = 0; i < count; ++i) {
+    seed = seed * 1103515245u + 12345u;
+    std::string call = kPrefixes[seed % 10];
+    call += static_cast<char>('0' + (seed >> 8) % 10);
+    call += static_cast<char>('A' + i % 26);
+    call += static_cast<char>('A' + (i / 26) % 26);
+    call += static_cast<char>('A' + (i / 676) % 26);
+    calls.push_back(call);
+  }
+  return calls;
+}
+
+// Building the sorted call index of a full log, one insert per QSO.
+void BM_IndexFindCallFill(benchmark::State& state) {
+  auto calls = MakeCalls(MaxQsos);
+  auto log = std::make_unique<LogStore>();
+  for (auto _ : state) {
+    log->CallIndexCount = 0;
+    for (const std::string& call : calls) IndexFindCall(*log, call + "03", false);
+    benchmark::DoNotOptimize(log->CallIndexCount);
+  }
+  state.SetItemsProcessed(state.iterations() * MaxQsos);
+}
+BENCHMARK(BM_IndexFindCallFill)->Unit(benchmark::kMillisecond);
+
+// A search of the full index, as the call box does at each key.
+void BM_IndexFindCallSearch(benchmark::State& state) {
+  auto calls = MakeCalls(MaxQsos);
+  auto log = std::make_unique<LogStore>();
+  for (const std::string& call : calls) IndexFindCall(*log, call + "03", false);
+  std::size_t i = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(IndexFindCall(*log, calls[i++ % calls.size()].substr(0, 3), true));
+  }
+}
+BENCHMARK(BM_IndexFindCallSearch);
+
+// Logging a full Generic log of 8000 QSOs through the main form.
+void BM_ProcessEntryFullLog(benchmark::State& state) {
+  auto calls = MakeCalls(MaxQsos);
+  for (auto _ : state) {
+    state.PauseTiming();
+    ScriptedPlatform desk;
+    desk.Time.Set({2026, 11, 22, 0, 0, 0});
+    auto ctx = MakeContext("/tmp/");
+    LogForm form(*ctx, desk.View);
+    desk.Forms.Actions["ChCoForm"].push_back([](FormModel& f) {
+      auto& chooser = static_cast<ChCoForm&>(f);
+      chooser.List1_Click(ChCoForm::PositionOfContest(Generic));
+      chooser.CmdOK_Click();
+    });
+    form.mnuFileNewLog_Click();
+    state.ResumeTiming();
+    for (const std::string& call : calls) {
+      form.InData_Change(CallBox, call, static_cast<int>(call.size()));
+      form.SetFocus(ExchangeBox);
+      form.InData_Change(ExchangeBox, "599 NOTES", 9);
+      form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
+      desk.Time.Advance(10 * 1000);
+    }
+    benchmark::DoNotOptimize(ctx->Log.QSOCount);
+  }
+  state.SetItemsProcessed(state.iterations() * MaxQsos);
+}
+BENCHMARK(BM_ProcessEntryFullLog)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,16 @@
+# Fails when a file under src/ outside src/platform/qt includes a Qt header:
+# the logic must stay buildable and testable without a display.
+file(GLOB_RECURSE sources "${ROOT}/src/*.h" "${ROOT}/src/*.cpp")
+set(offenders "")
+foreach(source IN LISTS sources)
+  if(source MATCHES "/src/platform/qt/")
+    continue()
+  endif()
+  file(STRINGS "${source}" includes REGEX "^[ \t]*#[ \t]*include[ \t]*<Q")
+  if(includes)
+    list(APPEND offenders "${source}")
+  endif()
+endforeach()
+if(offenders)
+  message(FATAL_ERROR "Qt included outside src/platform/qt:\n${offenders}")
+endif()

@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "core/BandMode.h"
+#include "platform/Scripted.h"
+
+namespace tarnix {
+namespace {
+
+class BandModeTest : public ::testing::Test {
+ protected:
+  ContestState state;
+  ScriptedMessageBoxes boxes;
+  std::optional<BandMode> form;
+
+  // Opens the form as the host does; rows 1..12 enabled given as digits.
+  BandMode& Open(int contest, int bandIndex, const std::string& rows) {
+    state.ContestIndex = static_cast<int16_t>(contest);
+    state.BandIndex = static_cast<int16_t>(bandIndex);
+    for (int row = 1; row <= 12; ++row) state.BandEnabled[row] = rows[row - 1] == '1';
+    form.emplace(state, boxes);
+    form->Visible = true;
+    return *form;
+  }
+  std::string Rows(bool fromBoxes) const {
+    std::string out;
+    for (int row = 1; row <= 12; ++row) out += (fromBoxes ? form->BandBox[row].Value : state.BandEnabled[row]) ? '1' : '0';
+    return out;
+  }
+};
+
+TEST_F(BandModeTest, RowsShownByContestAndLockedForTenMetres) {
+  struct Row { int contest; int lastShown; };
+  const Row rows[] = {{Generic, 11}, {Cqp, 8}, {Neqp, 8}, {Paqp, 6}, {ArrlDx, 6}, {Ten, 6}, {CwOpen, 6}};
+  for (const Row& r : rows) {
+    Open(r.contest, 3, "111111000000");
+    for (int row = 1; row <= 12; ++row)
+      EXPECT_EQ(form->BandBox[row].Visible, row <= r.lastShown) << r.contest << " row " << row;
+  }
+  BandMode& f = Open(Ten, 1, "100000000000");
+  for (int row = 1; row <= 6; ++row) EXPECT_EQ(f.BandBox[row].Enabled, row == 1) << row;
+  f.BandBox_Click(2);
+  f.BandBox_Click(1);
+  EXPECT_EQ(Rows(true), "000000000000");
+}
+
+TEST_F(BandModeTest, OkWithNoBandRestoresTheSavedChoice) {
+  BandMode& f = Open(ArrlDx, 3, "111111000000");
+  for (int row = 1; row <= 6; ++row) f.BandBox_Click(row);
+  f.Command1_Click();
+  ASSERT_EQ(boxes.Shown.size(), 1u);
+  EXPECT_EQ(boxes.Shown[0].Text, "At least one band must be selected for the program to work.");
+  EXPECT_EQ(boxes.Shown[0].Title, "Band Selection Error");
+  EXPECT_EQ(Rows(true), "111111000000");
+  EXPECT_EQ(Rows(false), "111111000000");
+  EXPECT_TRUE(f.Visible);
+}
+
+TEST_F(BandModeTest, OkRefusesToDropTheCurrentBand) {
+  struct Row { int contest; int bandIndex; int row; };
+  const Row rows[] = {{ArrlDx, 3, 3}, {ArrlDx, 11, 3}, {Generic, 21, 9}};  // 20m CW, 20m SSB, 12m CW
+  for (const Row& r : rows) {
+    boxes.Shown.clear();
+    BandMode& f = Open(r.contest, r.bandIndex, "111111111110");
+    f.BandBox_Click(r.row);
+    f.BandBox_Click(1);  // other bands stay ticked
+    f.Command1_Click();
+    ASSERT_EQ(boxes.Shown.size(), 1u) << r.bandIndex;
+    EXPECT_EQ(boxes.Shown[0].Text, "No fair -- Can't delete current band.");
+    EXPECT_EQ(boxes.Shown[0].Title, "Band Selection Error");
+    EXPECT_TRUE(f.BandBox[r.row].Value && state.BandEnabled[r.row] && f.Visible) << r.bandIndex;
+  }
+}
+
+TEST_F(BandModeTest, OkTakesAValidChoiceAndCancelRestores) {
+  BandMode& f = Open(Generic, 3, "111111000000");
+  f.BandBox_Click(1);
+  f.BandBox_Click(9);
+  f.BandBox_Click(12);  // hidden row: no change
+  f.Command1_Click();
+  EXPECT_TRUE(boxes.Shown.empty());
+  EXPECT_FALSE(f.Visible);
+  EXPECT_EQ(Rows(false), "011111001000");
+
+  BandMode& g = Open(Generic, 3, "111111000000");
+  g.BandBox_Click(1);
+  g.BandBox_Click(10);
+  g.Command2_Click();
+  EXPECT_FALSE(g.Visible);
+  EXPECT_EQ(Rows(false), "111111000000");
+  EXPECT_EQ(Rows(true), "111111000000");
+}
+
+}  // namespace
+}  // namespace tarnix
