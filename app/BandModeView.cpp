@@ -12,7 +12,8 @@
 
 namespace tarnix {
 
-BandModeView::BandModeView(BandMode& model, QWidget* parent) : QDialog(parent), Model(model) {
+BandModeView::BandModeView(BandMode& model, QWidget* parent)
+    : ModalFormView(model, parent), Model(model) {
   setWindowTitle(QStringLiteral("Select Bands"));
   auto* boxes = new QVBoxLayout;
   for (int row = 1; row <= BandRowCount; ++row) {
@@ -61,17 +62,6 @@ void BandModeView::Refresh() {
   for (std::size_t i = 0; i < NoteLines.size(); ++i) NoteLines[i]->setText(ToQt(Model.NoteLines[i]));
   Show(*Command1, Model.Command1);
   Show(*Command2, Model.Command2);
-}
-
-void BandModeView::reject() {
-  Forward([this] { Model.CloseByFrame(); }, QDialog::Rejected);
-}
-
-void BandModeView::RunModal(FormModel& form, QWidget* parent) {
-  auto* model = dynamic_cast<BandMode*>(&form);
-  if (!model) return;
-  BandModeView view(*model, parent);
-  view.exec();
 }
 
 }  // namespace tarnix

@@ -33,7 +33,8 @@ QRadioButton* Option(const QString& name, QWidget* parent) {
 
 }  // namespace
 
-ChCoFormView::ChCoFormView(ChCoForm& model, QWidget* parent) : QDialog(parent), Model(model) {
+ChCoFormView::ChCoFormView(ChCoForm& model, QWidget* parent)
+    : ModalFormView(model, parent), Model(model) {
   setWindowTitle(QStringLiteral("Choose Contest"));
   List1 = Named<QListWidget>(QStringLiteral("List1"), this);
   List1->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);  // whole names, no scrolling
@@ -120,17 +121,6 @@ void ChCoFormView::Refresh() {
 
   Show(*CmdOK, Model.CmdOK);
   Show(*CmdCancel, Model.CmdCancel);
-}
-
-void ChCoFormView::reject() {
-  Forward([this] { Model.CloseByFrame(); }, QDialog::Rejected);
-}
-
-void ChCoFormView::RunModal(FormModel& form, QWidget* parent) {
-  auto* model = dynamic_cast<ChCoForm*>(&form);
-  if (!model) return;
-  ChCoFormView view(*model, parent);
-  view.exec();
 }
 
 }  // namespace tarnix

@@ -7,8 +7,8 @@
 namespace tarnix {
 
 void RegisterDialogViews(QtFormHost& host) {
-  host.Register("ChCoForm", &ChCoFormView::RunModal);
-  host.Register("BandMode", &BandModeView::RunModal);
+  host.Register("ChCoForm", &ModalFormView::RunModal<ChCoFormView, ChCoForm>);
+  host.Register("BandMode", &ModalFormView::RunModal<BandModeView, BandMode>);
 }
 
 }  // namespace tarnix

@@ -65,11 +65,7 @@ void BM_ProcessEntryFullLog(benchmark::State& state) {
     desk.Time.Set({2026, 11, 22, 0, 0, 0});
     auto ctx = MakeContext("/tmp/");
     LogForm form(*ctx, desk.View);
-    desk.Forms.Actions["ChCoForm"].push_back([](FormModel& f) {
-      auto& chooser = static_cast<ChCoForm&>(f);
-      chooser.List1_Click(ChCoForm::PositionOfContest(Generic));
-      chooser.CmdOK_Click();
-    });
+    QueueContestChoice(desk.Forms, Generic);
     form.mnuFileNewLog_Click();
     state.ResumeTiming();
     for (const std::string& call : calls) {

@@ -49,17 +49,6 @@ bool ParseClock(const std::string& text, LocalDateTime& when) {
   return false;
 }
 
-// Queues the choices of a new log in ChCoForm: the contest, and the mode
-// where the form offers one.
-void ChooseContest(ScriptedPlatform& desk, int contest, bool phone) {
-  desk.Forms.Actions["ChCoForm"].push_back([contest, phone](FormModel& form) {
-    auto& chooser = static_cast<ChCoForm&>(form);
-    chooser.List1_Click(ChCoForm::PositionOfContest(contest));
-    if (chooser.Frame1.Caption == "   Mode  ") chooser.ButtonMode_Click(phone ? 0 : 1);
-    chooser.CmdOK_Click();
-  });
-}
-
 // What an operator does for one line: the first word typed into the call
 // box, the focus to the exchange box, the rest (if any) as the exchange, and
 // Enter. Text left in the boxes by a refused entry is cleared first, as the
@@ -126,7 +115,7 @@ int Enter(const std::vector<std::string>& args, std::istream& in, std::ostream& 
   desk.Boxes.OnShow = [&out](const MessageBoxRequest& box) { PrintMessageBox(out, box); };
   auto ctx = MakeContext(ResolveAppPath());
   LogForm form(*ctx, desk.View);
-  ChooseContest(desk, contest, phone);
+  QueueContestChoice(desk.Forms, contest, phone);
   form.mnuFileNewLog_Click();
 
   LocalDateTime now = start;
@@ -158,7 +147,7 @@ int Demo(std::ostream& out) {
   desk.Boxes.OnShow = [&out](const MessageBoxRequest& box) { PrintMessageBox(out, box); };
   auto ctx = MakeContext(ResolveAppPath());
   LogForm form(*ctx, desk.View);
-  ChooseContest(desk, Generic, false);
+  QueueContestChoice(desk.Forms, Generic);
   form.mnuFileNewLog_Click();
   out << form.FileIDLabel.Caption << '\n' << form.QSONrLabel.Caption << '\n';
   for (const char* qso : kQsos) {

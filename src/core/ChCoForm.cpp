@@ -139,4 +139,13 @@ void ChCoForm::CmdCancel_Click() {
   Visible = false;
 }
 
+void QueueContestChoice(ScriptedFormHost& forms, int contestIndex, bool phone) {
+  forms.Actions["ChCoForm"].push_back([contestIndex, phone](FormModel& form) {
+    auto& chooser = static_cast<ChCoForm&>(form);
+    chooser.List1_Click(ChCoForm::PositionOfContest(contestIndex));
+    if (chooser.Frame1.Visible && chooser.ButtonMode[0].Caption == "  Phone") chooser.ButtonMode_Click(phone ? 0 : 1);
+    chooser.CmdOK_Click();
+  });
+}
+
 }  // namespace tarnix

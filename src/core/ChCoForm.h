@@ -14,6 +14,7 @@
 #include "core/Contest.h"
 #include "platform/Controls.h"
 #include "platform/Platform.h"
+#include "platform/Scripted.h"
 
 namespace tarnix {
 
@@ -51,5 +52,10 @@ class ChCoForm : public FormModel {
   ContestState& State;
   bool& DialogCancelled;
 };
+
+// For scripted front ends: queues what an operator does in the next ChCoForm
+// shown, choosing the contest, phone or CW where the form offers the mode,
+// and OK.
+void QueueContestChoice(ScriptedFormHost& forms, int contestIndex, bool phone = false);
 
 }  // namespace tarnix

@@ -30,11 +30,7 @@ class LogFormViewTest : public ::testing::Test {
   LogFormViewTest() {
     desk.Time.Set({2024, 11, 23, 14, 5, 0});
     // The contest chooser of New Log picks Generic and presses OK.
-    desk.Forms.Actions["ChCoForm"].push_back([](FormModel& form) {
-      auto& chooser = dynamic_cast<ChCoForm&>(form);
-      chooser.List1_Click(ChCoForm::PositionOfContest(Generic));
-      chooser.CmdOK_Click();
-    });
+    QueueContestChoice(desk.Forms, Generic);
     view.show();
     view.activateWindow();
     active = QTest::qWaitForWindowActive(&view);

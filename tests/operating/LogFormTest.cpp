@@ -19,12 +19,7 @@ class LogFormTest : public ::testing::Test {
 
   // File > New Log, choosing the contest (and Phone) in the contest form.
   void NewLog(int contest, bool phone = false) {
-    desk.Forms.Actions["ChCoForm"].push_back([contest, phone](FormModel& f) {
-      auto& chooser = static_cast<ChCoForm&>(f);
-      chooser.List1_Click(ChCoForm::PositionOfContest(contest));
-      if (phone) chooser.ButtonMode_Click(0);
-      chooser.CmdOK_Click();
-    });
+    QueueContestChoice(desk.Forms, contest, phone);
     form.mnuFileNewLog_Click();
   }
   void Log(const std::string& call) {

@@ -17,11 +17,7 @@ class ProcessEntryTest : public ::testing::Test {
   LogForm form{*ctx, desk.View};
 
   void NewLog(int contest) {
-    desk.Forms.Actions["ChCoForm"].push_back([contest](FormModel& f) {
-      auto& chooser = static_cast<ChCoForm&>(f);
-      chooser.List1_Click(ChCoForm::PositionOfContest(contest));
-      chooser.CmdOK_Click();
-    });
+    QueueContestChoice(desk.Forms, contest);
     form.mnuFileNewLog_Click();
     desk.Time.Set({2026, 11, 22, 14, 5, 0});
   }

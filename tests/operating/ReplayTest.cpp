@@ -16,11 +16,7 @@ struct ReplayFixture : ::testing::Test {
 
   void SetUp() override {
     Desk.Time.Set({2026, 11, 22, 23, 50, 0});
-    Desk.Forms.Actions["ChCoForm"].push_back([](FormModel& f) {
-      auto& chooser = static_cast<ChCoForm&>(f);
-      chooser.List1_Click(ChCoForm::PositionOfContest(Generic));
-      chooser.CmdOK_Click();
-    });
+    QueueContestChoice(Desk.Forms, Generic);
     Form.mnuFileNewLog_Click();
   }
 
