@@ -41,6 +41,11 @@ void ChCoForm::ShowModeFrame(bool phoneEnabled) {
 
 void ChCoForm::List1_Click(int position) {
   List1.ListIndex = position;
+  // Every selection starts from the same buttons, so nothing of an earlier
+  // choice stays behind in a hidden group.
+  ButtonMode = {};
+  ButtonQTH = {};
+  ButtonMode[1].Value = true;
   Frame1.Visible = false;
   Frame2.Visible = false;
   ComboQTH.Visible = false;
@@ -61,7 +66,6 @@ void ChCoForm::List1_Click(int position) {
       SetOption(ButtonQTH[0], " US/VE", true);
       SetOption(ButtonQTH[1], " DX", false);
       ButtonQTH[2].Visible = false;
-      ButtonQTH[2].Value = false;
       break;
     case Cqww:
     case Wpx:
