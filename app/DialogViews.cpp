@@ -2,6 +2,7 @@
 
 #include "BandModeView.h"
 #include "ChCoFormView.h"
+#include "UserInfoView.h"
 #include "platform/qt/QtPlatform.h"
 
 namespace tarnix {
@@ -9,6 +10,7 @@ namespace tarnix {
 void RegisterDialogViews(QtFormHost& host) {
   host.Register("ChCoForm", &ModalFormView::RunModal<ChCoFormView, ChCoForm>);
   host.Register("BandMode", &ModalFormView::RunModal<BandModeView, BandMode>);
+  host.Register("UserInfo", &ModalFormView::RunModal<UserInfoView, UserInfo>);
 }
 
 }  // namespace tarnix

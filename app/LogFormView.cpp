@@ -74,6 +74,14 @@ void LogFormView::BuildMenus() {
   };
   QMenu* file = addMenu("mnuFile", Model.mnuFile);
   AddAction(file, "mnuFileNewLog", Model.mnuFileNewLog, &LogForm::mnuFileNewLog_Click);
+  AddAction(file, "mnuFileOpenLog", Model.mnuFileOpenLog, &LogForm::mnuFileOpenLog_Click);
+  AddAction(file, "mnuFileSave", Model.mnuFileSave, &LogForm::mnuFileSave_Click);
+  file->addSeparator();
+  for (int i = 1; i <= 4; ++i) {
+    QByteArray name = QStringLiteral("mnuFileArray%1").arg(i).toLatin1();
+    QAction* recent = AddAction(file, name.constData(), Model.mnuFileArray[static_cast<std::size_t>(i)], nullptr);
+    connect(recent, &QAction::triggered, this, [this, i] { Forward([&] { Model.mnuFileArray_Click(i); }); });
+  }
   file->addSeparator();
   QAction* exit = AddAction(file, "mnuFileExit", Model.mnuFileExit, nullptr);
   connect(exit, &QAction::triggered, this, [this] { Exit(); });
@@ -241,6 +249,11 @@ bool LogFormView::KeyPressed(int box, const QKeyEvent& key) {
   char16_t ch = text[0].unicode();
   if (ch < 0x80) Forward([&] { Model.InData_KeyPress(box, static_cast<char>(ch)); });
   return true;
+}
+
+void LogFormView::EndProgram() {
+  ExitAgreed = true;
+  close();
 }
 
 void LogFormView::Exit() {

@@ -53,7 +53,10 @@ class LogFormView : public QMainWindow {
     if (Refreshing) return;
     std::forward<Action>(action)();
     Refresh();
+    if (Model.EndRequested) EndProgram();
   }
+  // The model found a log it cannot read and the program ends.
+  void EndProgram();
 
   LogForm& Model;
   bool Refreshing = false;

@@ -63,7 +63,8 @@ void BM_ProcessEntryFullLog(benchmark::State& state) {
     state.PauseTiming();
     ScriptedPlatform desk;
     desk.Time.Set({2026, 11, 22, 0, 0, 0});
-    auto ctx = MakeContext("/tmp/");
+    TempFolder home;
+    auto ctx = MakeContext(home.Path);
     LogForm form(*ctx, desk.View);
     QueueContestChoice(desk.Forms, Generic);
     form.mnuFileNewLog_Click();

@@ -22,4 +22,26 @@ std::string ResolveAppPath() {
   return path;
 }
 
+std::string ShippedDataDir() {
+  if (const char* data = std::getenv("TARNIX_DATA"); data && *data) return data;
+  return TARNIX_DATA_DIR;
+}
+
+std::optional<std::string> SeedProgramFolder(const std::string& appPath, const std::string& dataDir) {
+  namespace fs = std::filesystem;
+  std::string problems;
+  for (std::string_view name : ShippedDataFiles) {
+    fs::path target = fs::path(appPath) / name;
+    std::error_code error;
+    if (fs::exists(target, error)) continue;
+    fs::path source = fs::path(dataDir) / name;
+    fs::copy_file(source, target, fs::copy_options::skip_existing, error);
+    if (error)
+      problems += (problems.empty() ? "" : "\n") + std::string("Can't copy ") + source.string() + " to " +
+                  target.string() + ": " + error.message();
+  }
+  if (problems.empty()) return std::nullopt;
+  return problems;
+}
+
 }  // namespace tarnix

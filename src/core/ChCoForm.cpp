@@ -1,5 +1,7 @@
 #include "core/ChCoForm.h"
 
+#include <algorithm>
+
 namespace tarnix {
 namespace {
 
@@ -141,6 +143,37 @@ void ChCoForm::CmdOK_Click() {
 void ChCoForm::CmdCancel_Click() {
   DialogCancelled = true;
   Visible = false;
+}
+
+bool MakeChoice(ChCoForm& form, const ContestChoice& choice) {
+  int position = ChCoForm::PositionOfContest(choice.ContestIndex);
+  if (position < 0) return false;
+  form.List1_Click(position);
+  auto offered = [](const OptionButton& b, const Frame& frame) { return frame.Visible && b.Visible && b.Enabled; };
+  for (auto [button, caption] : {std::pair{choice.ModeButton, "   Mode  "}, {choice.LocationButton, "   Location   "}}) {
+    if (button < 0) continue;
+    if (button > 1 || form.Frame1.Caption != caption ||
+        !offered(form.ButtonMode[static_cast<std::size_t>(button)], form.Frame1))
+      return false;
+    form.ButtonMode_Click(button);
+  }
+  if (choice.QthButton >= 0) {
+    if (choice.QthButton > 2 || !offered(form.ButtonQTH[static_cast<std::size_t>(choice.QthButton)], form.Frame2))
+      return false;
+    form.ButtonQTH_Click(choice.QthButton);
+  }
+  if (!choice.Continent.empty()) {
+    const auto& items = form.ComboQTH.Items;
+    auto at = std::find(items.begin(), items.end(), choice.Continent);
+    if (at == items.end() || !form.ComboQTH.Visible || !form.ComboQTH.Enabled) return false;
+    form.ComboQTH_Click(static_cast<int>(at - items.begin()));
+  }
+  form.CmdOK_Click();
+  return true;
+}
+
+void QueueContestChoice(ScriptedFormHost& forms, const ContestChoice& choice) {
+  forms.Actions["ChCoForm"].push_back([choice](FormModel& form) { MakeChoice(static_cast<ChCoForm&>(form), choice); });
 }
 
 void QueueContestChoice(ScriptedFormHost& forms, int contestIndex, bool phone) {

@@ -53,9 +53,24 @@ class ChCoForm : public FormModel {
   bool& DialogCancelled;
 };
 
-// For scripted front ends: queues what an operator does in the next ChCoForm
-// shown, choosing the contest, phone or CW where the form offers the mode,
-// and OK.
+// What an operator picks in ChCoForm, for scripted front ends.
+struct ContestChoice {
+  int ContestIndex = 0;
+  int ModeButton = -1;      // 0 phone or 1 CW, where Frame1 is the mode
+  int LocationButton = -1;  // 0 in or 1 out of the party's area, where Frame1 is the location
+  int QthButton = -1;       // ButtonQTH 0..2: the station's location, or the CW Open's hours
+  std::string Continent;  // the ComboQTH entry, with the third location button
+};
+
+// Makes the choice on the form: the contest, each button asked for, the
+// continent, then OK. Returns false, leaving the form open, when the form
+// does not offer one of them (a hidden or disabled button, an unknown
+// continent).
+bool MakeChoice(ChCoForm& form, const ContestChoice& choice);
+
+// Queues the choice for the next ChCoForm a scripted form host shows.
+void QueueContestChoice(ScriptedFormHost& forms, const ContestChoice& choice);
+// The usual choice: the contest, and phone or CW where the form offers it.
 void QueueContestChoice(ScriptedFormHost& forms, int contestIndex, bool phone = false);
 
 }  // namespace tarnix

@@ -11,6 +11,12 @@ CallIndexEntry::CallIndexEntry(std::string_view text) {
   std::copy_n(text.begin(), Length, Bytes.begin());
 }
 
+QsoRecord& LoggedRecord(LogStore& log, int n) {
+  if (log.RecordLength == static_cast<int16_t>(QsoRecordShortSize)) return log.LogRecordsShort.At(n);
+  if (log.RecordLength == static_cast<int16_t>(QsoRecordMidSize)) return log.LogRecordsMid.At(n);
+  return log.LogRecords.At(n);
+}
+
 int IndexFindCall(LogStore& log, std::string_view key, bool searchOnly) {
   int lo = 1, hi = log.CallIndexCount;
   while (lo <= hi) {

@@ -95,8 +95,13 @@ struct LogStore {
   float OperatingMinutes = 0;
   int16_t RunOnBand = 0;        // minutes since the last change of band
   bool WideLog = true;          // the open log has 60-byte records
+  int16_t RecordLength = 60;    // 60, or 36 or 26 for an old log
   LogStateKind LogState = LogStateKind::None;
 };
+
+// QSO n of the open log, in the array of its record length: the 26- and
+// 36-byte shapes of old logs have arrays of their own.
+QsoRecord& LoggedRecord(LogStore& log, int n);
 
 // Search and insert on CallIndex, a bisection. Entries are a call followed by
 // two band digits; the comparison ignores those digits. Returns the place of

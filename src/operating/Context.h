@@ -9,6 +9,7 @@
 
 #include "config/Settings.h"
 #include "core/Contest.h"
+#include "core/LogFile.h"
 #include "core/LogStore.h"
 #include "radio/RadioState.h"
 #include "rules/ContestCounters.h"
@@ -24,6 +25,7 @@ struct Context {
   RadioState Radio;
 
   std::string LogFileName;     // full path of the open log
+  LogHeader SavedHeader;       // the open log's header, written again by Kill All
   bool DialogCancelled = false;
   bool ReloadFlag = false;     // re-read the current log without asking
   bool NewRequested = false;

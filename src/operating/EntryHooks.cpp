@@ -61,24 +61,14 @@ void LogForm::PrefillExchange() {}
 void LogForm::ShowPriorQsos() {}
 void LogForm::LookUpInstaMatch() {}
 
-// The log file: the QSO record written as file record n + 1 (returns the
-// error text on failure), the header of a new log, the temporary file, the
-// kill-all copy, the replay of an opened log and its multiplier tables.
-std::optional<std::string> LogForm::WriteLogRecord(int) { return std::nullopt; }
-void LogForm::CreateLogFile() {}
-void LogForm::DeleteTempLogFile() {}
-void LogForm::WriteKilledFile() {}
-void LogForm::EmptyLogFile() {}
-void LogForm::ReplayLogFile() {}
+// The multiplier tables of the contest, reset as a log is opened.
 void LogForm::ResetMultiplierTables() {}
-// Save As: returns true when the log was saved under a new name.
-bool LogForm::SaveAs() { return false; }
+// The WPX prefix of a call, for the conversion of old WPX logs.
+std::string LogForm::WpxPrefixOf(const std::string&) { return {}; }
 
 // The QSO editor on QSO n: returns true when the QSO was changed.
 bool LogForm::EditQso(int) { return false; }
 
-// The settings file, written whole.
-void LogForm::WriteSettings() {}
 // Closes the Winkeyer port at exit.
 void LogForm::CloseWinkey() {}
 

@@ -25,6 +25,7 @@ void LogForm::Tell(const std::string& text, const std::string& title, MsgIcon ic
 }
 
 void LogForm::Form_Load() {
+  ShowRecentFiles();
   bool open = HasLog();
   for (MenuItem* menu : {&mnuView, &mnuEdit, &mnuRadioWK, &mnuFileSave, &mnuFileBackup}) menu->Enabled = open;
   mnuFileSetup.Enabled = true;
@@ -69,108 +70,6 @@ void LogForm::SetMenusForContest() {
   mnuViewDvK.Enabled = phone;
 }
 
-// ---- File menu ----
-
-void LogForm::mnuFileNewLog_Click() {
-  if (Ctx.Log.LogState == LogStateKind::Named &&
-      Ask("A log file is already open.  Do you want to start a new one? ", "Log Already Opened", MsgButtons::YesNo,
-          MsgAnswer::No) == MsgAnswer::No)
-    return;
-  if (Ctx.Log.LogState == LogStateKind::Unnamed) {
-    MsgAnswer answer = Ask("Save current log file? ", "Save Current File?", MsgButtons::YesNoCancel, MsgAnswer::Yes);
-    if (answer == MsgAnswer::Cancel) return;
-    if (answer == MsgAnswer::Yes) SaveAs();
-    if (Ctx.Log.LogState == LogStateKind::Unnamed && Ctx.LogFileName == Ctx.TempLogFileName()) DeleteTempLogFile();
-  }
-  Ctx.Log.LogState = LogStateKind::None;
-  CloseViewWindows();
-  ResetLog(Ctx.Log);
-  ResetCounters(Ctx.Counters);
-  Ctx.NewRequested = true;
-  Ctx.LogFileName = Ctx.TempLogFileName();
-  OpenNewLog();
-}
-
-// The new-log path of the log open routine: the contest is chosen, the
-// header written, and the empty log set up.
-void LogForm::OpenNewLog() {
-  ContestState before = Ctx.Contest;
-  ChCoForm chooser(Ctx.Contest, Ctx.DialogCancelled);
-  Desk.Forms.ShowModal(chooser);
-  Ctx.NewRequested = false;
-  if (Ctx.DialogCancelled) {
-    Ctx.Contest = before;
-    Form_Load();
-    return;
-  }
-  if (IsMixedModeContest(Ctx.Contest.ContestIndex)) Ctx.Contest.ModeEnabled[1] = Ctx.Contest.ModeEnabled[2] = true;
-  if (Ctx.Contest.ContestIndex == CwOpen) {
-    Ctx.Contest.ModeEnabled[1] = false;
-    Ctx.Contest.ModeEnabled[2] = true;
-  }
-  Ctx.Log.LogState = LogStateKind::Unnamed;
-  CreateLogFile();
-  Ctx.Log.WideLog = true;
-  AfterHeader(true);
-}
-
-// What every load does once the header is known.
-void LogForm::AfterHeader(bool isNew) {
-  ContestState& s = Ctx.Contest;
-  s.OffTimeLimit = OffTimeLimitFor(s.ContestIndex);
-  Ctx.Config.SCPSelection = SCPSelectionFor(s);
-  ResetMultiplierTables();
-  if (!isNew) ReplayLogFile();
-
-  LogStore& log = Ctx.Log;
-  s.BandIndex = log.QSOCount > 1 ? log.LogRecords.At(log.QSOCount - 1).QBand : StartBandFor(s);
-  Ctx.Radio.RadioBand1 = Ctx.Radio.RadioBand2 = s.BandIndex;
-  Ctx.Radio.ActiveRadio = 1;
-  SetDefaultBands(s);
-  Form_Load();
-  if (Ctx.ReloadFlag) {
-    LastQSOLabel.Caption = LastLine;
-    LastQSOLabel.Visible = !LastLine.empty();
-  } else {
-    LastLine.clear();
-    LastQSOLabel.Caption.clear();
-    LastQSOLabel.Visible = false;
-  }
-  std::string name = Ctx.Log.LogState == LogStateKind::Named
-                         ? std::filesystem::path(Ctx.LogFileName).filename().string()
-                         : std::string();
-  FileIDLabel.Caption = TitleLine(name, s, isNew ? TitleContext::NewLog : TitleContext::LoadLog);
-  mnuFileBackup.Enabled = Ctx.Log.LogState == LogStateKind::Named;
-  ClearEntry();
-}
-
-// Re-reads the current log after a change that is not a new QSO.
-void LogForm::ReloadLog() {
-  Ctx.ReloadFlag = true;
-  ResetLog(Ctx.Log);
-  ResetCounters(Ctx.Counters);
-  ClearCallAssist();
-  CloseMessageWindows();
-  AfterHeader(false);
-  Ctx.ReloadFlag = false;
-}
-
-bool LogForm::mnuFileExit_Click() {
-  if (Ctx.Log.LogState == LogStateKind::Unnamed) {
-    MsgAnswer answer = Ask("Save current log file?", "Save Log?", MsgButtons::YesNoCancel, MsgAnswer::Yes);
-    if (answer == MsgAnswer::Cancel) return false;
-    if (answer == MsgAnswer::No && Ctx.LogFileName == Ctx.TempLogFileName()) DeleteTempLogFile();
-    // A cancel in the save dialog does not stop the exit: the temporary file
-    // stays and is offered for recovery at the next start.
-    if (answer == MsgAnswer::Yes) SaveAs();
-  } else if (Ask("Exit TARNIX?", "Exit TARNIX?", MsgButtons::YesNo, MsgAnswer::Yes) == MsgAnswer::No) {
-    return false;
-  }
-  WriteSettings();
-  CloseWinkey();
-  return true;
-}
-
 // ---- Edit menu ----
 
 void LogForm::mnuEditKillLastEntry_Click() {
@@ -197,8 +96,7 @@ void LogForm::mnuEditKillALLEntries_Click() {
   if (Ask(name + "\nKill ALL log entries?\nIf you do so, a backup file is created, called KilledFile.tnx.",
           "Confirm kill", MsgButtons::YesNo, MsgAnswer::No) != MsgAnswer::Yes)
     return;
-  WriteKilledFile();
-  EmptyLogFile();
+  if (!WriteKilledFile() || !EmptyLogFile()) return;
   WriteSettings();
   ReloadLog();
 }

@@ -16,6 +16,7 @@
 // EntryHooks.cpp; each says what it will do.
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -55,6 +56,7 @@ class LogForm {
   MenuItem mnuFile{"&File"}, mnuFileNewLog{"&New Log"}, mnuFileOpenLog{"&Open Log"},
       mnuFileSave{"Save &As..."}, mnuFileBackup{"&Backup"}, mnuFileSetup{"&Preferences..."},
       mnuFileExit{"E&xit"};
+  std::array<MenuItem, 5> mnuFileArray;  // the recent files 1..4
   MenuItem mnuEdit{"&Edit"}, mnuEditLastEntry{"&Edit Last Entry"},
       mnuEditKillLastEntry{"&Kill Last Entry"}, mnuEditKillALLEntries{"Kill &ALL Entries"},
       mnuEditSelectBands{"Select &Bands..."}, mnuEditCW{"&CW Messages..."};
@@ -108,8 +110,13 @@ class LogForm {
   void CancelButton_Click();
 
   void mnuFileNewLog_Click();
+  void mnuFileOpenLog_Click();
+  void mnuFileArray_Click(int recent);  // 1..4
+  void mnuFileSave_Click();
   // Returns true when the program is to end.
   bool mnuFileExit_Click();
+  // Set when a log of an incompatible format was opened: the program ends.
+  bool EndRequested = false;
   void mnuEditKillLastEntry_Click();
   void mnuEditKillALLEntries_Click();
   void mnuEditLastEntry_Click();
@@ -138,10 +145,25 @@ class LogForm {
   void InData_GotFocus(int box);
   void InData_LostFocus(int box);
 
-  // Log steps (LogForm.cpp).
+  // Log steps (LogFileMenu.cpp).
   void OpenNewLog();
+  void OpenExisting(int recent);
+  void RememberLogName(const std::string& name);
+  void ShowRecentFiles();
+  void LoadLog();
+  bool ReadLogFile(std::string& bytes);
+  void AbandonLoad();
+  bool ConvertLog(std::string& bytes, bool sweepstakes);
+  void AfterHeader(const std::string* fileBytes);
+  void LoadRecords(const std::string& bytes);
   void ReloadLog();
-  void AfterHeader(bool isNew);
+  bool SaveAs();
+  void DeleteTempLogFile();
+  MsgAnswer FileErrorRoutine(const std::string& error);
+  bool WriteWithRetry(const std::function<FileError()>& write);
+  FileError WriteLogRecord(int n);
+  bool WriteKilledFile();
+  bool EmptyLogFile();
   void SetMenusForContest();
   bool HasLog() const;
 
@@ -168,17 +190,11 @@ class LogForm {
   void ShowPriorQsos();
   void LookUpInstaMatch();
   void ClearPartialWindow();
-  std::optional<std::string> WriteLogRecord(int n);
-  void CreateLogFile();
-  void DeleteTempLogFile();
-  void WriteKilledFile();
-  void EmptyLogFile();
-  void ReplayLogFile();
+  std::string WpxPrefixOf(const std::string& call);
   void ResetMultiplierTables();
   void CloseViewWindows();
   void CloseMessageWindows();
   void ClearCallAssist();
-  bool SaveAs();
   bool EditQso(int n);
   void WriteSettings();
   void CloseWinkey();

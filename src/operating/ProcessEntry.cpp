@@ -211,7 +211,7 @@ void LogForm::ReplayLog(int count) {
   LogStore& log = Ctx.Log;
   log.QSOCount = static_cast<int16_t>(count);
   for (int n = 1; n < count; ++n) {
-    QsoRecord& qso = log.LogRecords.At(n);
+    QsoRecord& qso = LoggedRecord(log, n);
     if (qso.QBand < 1 || qso.QBand > BandIndexCount) qso.QBand = 16;
     std::string call = qso.QCall.Trimmed();
     IndexCall(n, call, qso.QBand);
@@ -289,13 +289,12 @@ bool LogForm::WriteEntry() {
   bool written = false;
   for (;;) {
     log.LogRecords.At(log.QSOCount) = EntryRecord;
-    std::optional<std::string> error = WriteLogRecord(log.QSOCount);
+    FileError error = WriteLogRecord(log.QSOCount);
     if (!error) {
       written = true;
       break;
     }
-    MsgAnswer answer = Ask(*error + "\n\nThe QSO is kept in memory but is not yet in the log file.",
-                           "Log File Error", MsgButtons::AbortRetryIgnore, MsgAnswer::Retry, MsgIcon::Critical);
+    MsgAnswer answer = FileErrorRoutine(*error + "\n\nThe QSO is kept in memory but is not yet in the log file.");
     if (answer == MsgAnswer::Retry) continue;
     if (answer == MsgAnswer::Ignore) break;
     return false;

@@ -12,6 +12,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/FileStore.h"
+
 namespace tarnix {
 
 enum class MsgButtons { OK, OKCancel, YesNo, YesNoCancel, AbortRetryIgnore };
@@ -114,6 +116,7 @@ struct Platform {
   Clock& Time;
   TimerFactory& Timers;
   EventPump& Events;
+  FileStore& Disk;
 };
 
 }  // namespace tarnix

@@ -110,4 +110,19 @@ void ScriptedEventPump::DoEvents() {
   if (OnPass) OnPass();
 }
 
+bool FaultFileStore::NextWriteFails() {
+  ++Writes;
+  return (FailFromWrite > 0 && Writes >= FailFromWrite) || Writes == FailOnlyWrite;
+}
+
+FileError FaultFileStore::WriteAt(const std::string& path, uint64_t offset, std::span<const char> bytes) {
+  if (NextWriteFails()) return FailText;
+  return DiskFileStore::WriteAt(path, offset, bytes);
+}
+
+FileError FaultFileStore::Replace(const std::string& path, std::span<const char> bytes) {
+  if (NextWriteFails()) return FailText;
+  return DiskFileStore::Replace(path, bytes);
+}
+
 }  // namespace tarnix

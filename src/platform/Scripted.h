@@ -78,6 +78,22 @@ class ScriptedEventPump : public EventPump {
   std::function<void()> OnPass;  // work to do inside a pass, e.g. a key
 };
 
+// The disk, with faults on demand: a write can be made to fail once, from
+// the Nth write on, or always, as a full or read-only disk does.
+class FaultFileStore : public DiskFileStore {
+ public:
+  FileError WriteAt(const std::string& path, uint64_t offset, std::span<const char> bytes) override;
+  FileError Replace(const std::string& path, std::span<const char> bytes) override;
+
+  int Writes = 0;          // WriteAt and Replace calls so far
+  int FailFromWrite = 0;   // 1-based: this write and all later ones fail; 0 never
+  int FailOnlyWrite = 0;   // 1-based: only this write fails; 0 never
+  std::string FailText = "Can't write: No space left on device";
+
+ private:
+  bool NextWriteFails();
+};
+
 // All scripted services together, with the Platform view of them.
 struct ScriptedPlatform {
   ScriptedPlatform() = default;
@@ -89,7 +105,8 @@ struct ScriptedPlatform {
   ScriptedFormHost Forms;
   FakeClock Time;
   ScriptedEventPump Events;
-  Platform View{Boxes, Files, Forms, Time, Time, Events};
+  FaultFileStore Disk;
+  Platform View{Boxes, Files, Forms, Time, Time, Events, Disk};
 };
 
 }  // namespace tarnix

@@ -13,7 +13,8 @@ namespace {
 
 class LogFormTest : public ::testing::Test {
  protected:
-  std::unique_ptr<Context> ctx = MakeContext("/nonexistent/tarnix/");
+  TempFolder home;
+  std::unique_ptr<Context> ctx = MakeContext(home.Path);
   ScriptedPlatform desk;
   LogForm form{*ctx, desk.View};
 

@@ -12,7 +12,8 @@ namespace {
 
 class ProcessEntryTest : public ::testing::Test {
  protected:
-  std::unique_ptr<Context> ctx = MakeContext("/nonexistent/tarnix/");
+  TempFolder home;
+  std::unique_ptr<Context> ctx = MakeContext(home.Path);
   ScriptedPlatform desk;
   LogForm form{*ctx, desk.View};
 

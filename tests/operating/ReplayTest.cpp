@@ -11,7 +11,8 @@ namespace {
 
 struct ReplayFixture : ::testing::Test {
   ScriptedPlatform Desk;
-  std::unique_ptr<Context> Ctx = MakeContext("/tmp/tarnix-replay-test/");
+  TempFolder Home;
+  std::unique_ptr<Context> Ctx = MakeContext(Home.Path);
   LogForm Form{*Ctx, Desk.View};
 
   void SetUp() override {

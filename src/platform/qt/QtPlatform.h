@@ -70,7 +70,8 @@ struct QtPlatform {
   SystemClock Time;
   QtTimers Timers;
   QtEventPump Events;
-  Platform View{Boxes, Files, Forms, Time, Timers, Events};
+  DiskFileStore Disk;
+  Platform View{Boxes, Files, Forms, Time, Timers, Events, Disk};
 };
 
 }  // namespace tarnix

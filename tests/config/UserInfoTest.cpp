@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "config/UserInfo.h"
+#include "platform/Scripted.h"
+
+namespace tarnix {
+namespace {
+
+class UserInfoTest : public ::testing::Test {
+ protected:
+  UserInfoTest() {
+    const char* names[] = {"", "Home", "Club", "Guest", "Field Day"};
+    for (int n = 1; n <= 4; ++n) {
+      s.UserProfile[n].ProfileName = names[n];
+      s.UserProfile[n].Callsign = "K" + std::to_string(n) + "ABC";
+      s.UserProfile[n].Email = "op" + std::to_string(n) + "@example.org";
+    }
+    s.CurrentUserProfile = 2;
+  }
+  UserInfo& Open() {
+    form = std::make_unique<UserInfo>(s, clipboard, boxes, [this] { ++writes; });
+    form->Visible = true;  // as the form host does
+    return *form;
+  }
+  std::string Boxes() const {
+    std::string out;
+    for (const TextBox& box : form->Textinfo) out += box.Text + "|";
+    return out;
+  }
+  const MessageBoxRequest& LastBox() const { return boxes.Shown.back(); }
+
+  Settings s;
+  UserInfoClipboard clipboard;
+  ScriptedMessageBoxes boxes;
+  int writes = 0;
+  std::unique_ptr<UserInfo> form;
+};
+
+TEST_F(UserInfoTest, OpensOnTheCurrentProfile) {
+  UserInfo& f = Open();
+  EXPECT_EQ(f.ComboUserProfile.Items, (std::vector<std::string>{"Home", "Club", "Guest", "Field Day"}));
+  EXPECT_EQ(f.ComboUserProfile.ListIndex, 1);
+  EXPECT_EQ(Boxes(), "K2ABC||||||||||op2@example.org|");
+  const char* captions[] = {"Callsign Used:", "Operators:", "Location:", "Name:", "Address:", "City/State/Zip:",
+                            "Country:", "Club/Team:", "Rig:", "Antennas:", "E-Mail:"};
+  const int widths[] = {12, 20, 20, 30, 30, 30, 25, 40, 60, 60, 30};
+  for (int i = 0; i < UserInfoFields; ++i) {
+    EXPECT_EQ(f.Labelinfo[i].Caption, captions[i]);
+    EXPECT_EQ(UserInfo::MaxLength(i), widths[i]);
+  }
+  EXPECT_EQ(f.LabelUserProfile.Caption, "User Profile:");
+  EXPECT_EQ(f.UserMenu.Caption + "|" + f.mnuPostUserSave.Caption + "|" + f.mnuPostUserRename.Caption + "|" +
+                f.mnuPostUserCopy.Caption + "|" + f.mnuPostUserPaste.Caption,
+            "Profile Operations|Save Profile|Rename Profile|Copy User Info|Paste User Info");
+  EXPECT_FALSE(f.TextRename.Visible || f.CmdRenameOK.Visible || f.CmdRenameCancel.Visible);
+
+  f.Textinfo_Change(0, "VE3ABCDEFGHIJKL");
+  EXPECT_EQ(f.Textinfo[0].Text, "VE3ABCDEFGHI");  // cut at 12
+
+  s.CurrentUserProfile = 0;
+  EXPECT_EQ(Open().ComboUserProfile.ListIndex, 0);
+}
+
+TEST_F(UserInfoTest, SwitchingKeepsTheShownValuesAndOkSavesCancelDoesNot) {
+  UserInfo& f = Open();
+  f.Textinfo_Change(1, "  W6XX W6YY ");
+  f.ComboUserProfile_Click(3);
+  EXPECT_EQ(s.UserProfile[2].Operators, "W6XX W6YY");
+  EXPECT_EQ(Boxes(), "K4ABC||||||||||op4@example.org|");
+  EXPECT_EQ(s.CurrentUserProfile, 4);
+  EXPECT_EQ(s.CurrentUserProfileName, "Field Day");
+  EXPECT_EQ(writes, 0);
+
+  f.Textinfo_Change(8, " K3 ");
+  f.mnuPostUserSave_Click();
+  EXPECT_EQ(s.UserProfile[4].Rig, "K3");
+  EXPECT_EQ(writes, 1);
+  EXPECT_TRUE(f.Visible);
+
+  f.Textinfo_Change(9, "Dipole");
+  f.CmdCancel_Click();
+  EXPECT_EQ(s.UserProfile[4].Ant, "");
+  EXPECT_FALSE(f.Visible);
+  EXPECT_EQ(writes, 1);
+
+  UserInfo& g = Open();
+  g.Textinfo_Change(9, "Dipole ");
+  g.CmdOK_Click();
+  EXPECT_EQ(s.UserProfile[4].Ant, "Dipole");
+  EXPECT_FALSE(g.Visible);
+  EXPECT_EQ(writes, 2);
+}
+
+TEST_F(UserInfoTest, CopyAndPasteAskFirst) {
+  UserInfo& f = Open();
+  f.mnuPostUserPaste_Click();  // nothing copied yet; the default answer is No
+  const MessageBoxRequest& ask = LastBox();
+  EXPECT_EQ(ask.Text, "Do you want to replace the User Data on the displayed Profile?");
+  EXPECT_EQ(ask.Title, "Warning -- Information will be overwritten");
+  EXPECT_EQ(ask.Buttons, MsgButtons::YesNo);
+  EXPECT_EQ(Boxes(), "K2ABC||||||||||op2@example.org|");
+
+  boxes.Answers.push_back(MsgAnswer::Yes);
+  f.mnuPostUserPaste_Click();
+  EXPECT_EQ(Boxes(), "|||||||||||");
+  EXPECT_EQ(s.UserProfile[2].Callsign + s.UserProfile[2].Email, "");
+
+  f.ComboUserProfile_Click(0);
+  f.Textinfo_Change(3, " Ann ");
+  f.mnuPostUserCopy_Click();
+  f.ComboUserProfile_Click(2);
+  boxes.Answers.push_back(MsgAnswer::No);
+  f.mnuPostUserPaste_Click();
+  EXPECT_EQ(s.UserProfile[3].Name, "");
+  boxes.Answers.push_back(MsgAnswer::Yes);
+  f.mnuPostUserPaste_Click();
+  EXPECT_EQ(Boxes(), "K1ABC|||Ann|||||||op1@example.org|");
+  EXPECT_EQ(s.UserProfile[3].Name + " " + s.UserProfile[3].Callsign, "Ann K1ABC");
+  EXPECT_EQ(boxes.Shown.size(), 4u);
+  EXPECT_EQ(writes, 0);
+}
+
+TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
+  UserInfo& f = Open();
+  f.mnuPostUserRename_Click();
+  EXPECT_EQ(f.LabelUserProfile.Caption, "New Name:");
+  EXPECT_FALSE(f.ComboUserProfile.Visible || f.CmdOK.Visible || f.CmdCancel.Visible);
+  EXPECT_TRUE(f.TextRename.Visible && f.CmdRenameOK.Visible && f.CmdRenameCancel.Visible);
+  EXPECT_EQ(f.TextRename.Text, "Club");
+  EXPECT_EQ(f.TextRename.SelStart * 100 + f.TextRename.SelLength, 4);
+
+  f.TextRename_Change("    ");
+  f.CmdRenameOK_Click();
+  EXPECT_EQ(LastBox().Text, "Blank Names are not allowed.  Try again.");
+  EXPECT_EQ(LastBox().Title, "Error -- Blank Name");
+  f.TextRename_Change(" Guest ");
+  f.CmdRenameOK_Click();
+  EXPECT_EQ(LastBox().Text, "The new name is the same as that of another User Profile.  Choose another name.");
+  EXPECT_EQ(LastBox().Title, "Error -- Duplicate Name");
+  EXPECT_TRUE(f.TextRename.Visible);
+  EXPECT_EQ(s.UserProfile[2].ProfileName, "Club");
+  EXPECT_EQ(writes, 0);
+
+  f.TextRename_Change("Club");  // its own name
+  f.CmdRenameOK_Click();
+  EXPECT_EQ(boxes.Shown.size(), 2u);
+  EXPECT_EQ(writes, 1);
+  EXPECT_TRUE(f.ComboUserProfile.Visible);
+
+  f.mnuPostUserRename_Click();
+  f.TextRename_Change("Contest Club Station 1");
+  f.CmdRenameOK_Click();
+  EXPECT_EQ(s.UserProfile[2].ProfileName, "Contest Club Station");  // 20 characters
+  EXPECT_EQ(f.ComboUserProfile.Items[1], "Contest Club Station");
+  EXPECT_EQ(f.ComboUserProfile.ListIndex, 1);
+  EXPECT_EQ(s.CurrentUserProfileName, "Contest Club Station");
+  EXPECT_EQ(f.LabelUserProfile.Caption, "User Profile:");
+  EXPECT_EQ(writes, 2);
+
+  f.mnuPostUserRename_Click();
+  f.TextRename_Change("Dropped");
+  f.CmdRenameCancel_Click();
+  EXPECT_EQ(f.LabelUserProfile.Caption, "User Profile:");
+  EXPECT_TRUE(f.ComboUserProfile.Visible && f.CmdOK.Visible && !f.TextRename.Visible);
+  EXPECT_EQ(s.UserProfile[2].ProfileName, "Contest Club Station");
+}
+
+}  // namespace
+}  // namespace tarnix
