@@ -76,6 +76,7 @@ void LogFormView::BuildMenus() {
   AddAction(file, "mnuFileNewLog", Model.mnuFileNewLog, &LogForm::mnuFileNewLog_Click);
   AddAction(file, "mnuFileOpenLog", Model.mnuFileOpenLog, &LogForm::mnuFileOpenLog_Click);
   AddAction(file, "mnuFileSave", Model.mnuFileSave, &LogForm::mnuFileSave_Click);
+  AddAction(file, "mnuFileUserInfo", Model.mnuFileUserInfo, &LogForm::mnuFileUserInfo_Click);
   file->addSeparator();
   for (int i = 1; i <= 4; ++i) {
     QByteArray name = QStringLiteral("mnuFileArray%1").arg(i).toLatin1();

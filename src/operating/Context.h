@@ -8,6 +8,7 @@
 #include <string>
 
 #include "config/Settings.h"
+#include "config/UserInfo.h"
 #include "core/Contest.h"
 #include "core/LogFile.h"
 #include "core/LogStore.h"
@@ -25,6 +26,7 @@ struct Context {
   RadioState Radio;
 
   std::string LogFileName;     // full path of the open log
+  UserInfoClipboard UserClipboard;  // the profile form's copy, for the whole run
   LogHeader SavedHeader;       // the open log's header, written again by Kill All
   bool DialogCancelled = false;
   bool ReloadFlag = false;     // re-read the current log without asking

@@ -286,6 +286,11 @@ void LogForm::ReloadLog() {
 
 void LogForm::mnuFileSave_Click() { SaveAs(); }
 
+void LogForm::mnuFileUserInfo_Click() {
+  UserInfo form(Ctx.Config, Ctx.UserClipboard, Desk.Boxes, [this] { WriteSettings(); });
+  Desk.Forms.ShowModal(form);
+}
+
 // Save As: the only save there is, since every QSO is on disk already. The
 // log file moves to the new name. Returns true when it did.
 bool LogForm::SaveAs() {

@@ -55,7 +55,7 @@ class LogForm {
 
   MenuItem mnuFile{"&File"}, mnuFileNewLog{"&New Log"}, mnuFileOpenLog{"&Open Log"},
       mnuFileSave{"Save &As..."}, mnuFileBackup{"&Backup"}, mnuFileSetup{"&Preferences..."},
-      mnuFileExit{"E&xit"};
+      mnuFileUserInfo{"&User Profiles..."}, mnuFileExit{"E&xit"};
   std::array<MenuItem, 5> mnuFileArray;  // the recent files 1..4
   MenuItem mnuEdit{"&Edit"}, mnuEditLastEntry{"&Edit Last Entry"},
       mnuEditKillLastEntry{"&Kill Last Entry"}, mnuEditKillALLEntries{"Kill &ALL Entries"},
@@ -113,6 +113,7 @@ class LogForm {
   void mnuFileOpenLog_Click();
   void mnuFileArray_Click(int recent);  // 1..4
   void mnuFileSave_Click();
+  void mnuFileUserInfo_Click();
   // Returns true when the program is to end.
   bool mnuFileExit_Click();
   // Set when a log of an incompatible format was opened: the program ends.

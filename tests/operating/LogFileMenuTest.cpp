@@ -299,3 +299,21 @@ TEST_F(LogFileMenuTest, RecentFilesNewestFirstAndCancelKeepsTheLog) {
 
 }  // namespace
 }  // namespace tarnix
+
+namespace tarnix {
+namespace {
+
+TEST_F(LogFileMenuTest, UserProfilesAreKeptInTheSettingsFile) {
+  desk.Forms.Actions["UserInfo"].push_back([](FormModel& f) {
+    auto& profiles = static_cast<UserInfo&>(f);
+    profiles.Textinfo_Change(0, "k3zzz");
+    profiles.CmdOK_Click();
+  });
+  form.mnuFileUserInfo_Click();
+  EXPECT_EQ(ctx->Config.UserProfile[1].Callsign, "k3zzz");
+  std::string written = ReadFile(home.Path + "tarnix125.ini");
+  EXPECT_NE(written.find("\r\nUserProfile.Callsign=k3zzz\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tarnix
