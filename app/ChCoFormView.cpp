@@ -108,16 +108,7 @@ void ChCoFormView::Refresh() {
   Frame2->setVisible(Model.Frame2.Visible);
   for (std::size_t i = 0; i < ButtonQTH.size(); ++i) Show(*ButtonQTH[i], Model.ButtonQTH[i]);
 
-  QStringList places;
-  for (const std::string& item : Model.ComboQTH.Items) places << ToQt(item);
-  if (ComboQTH->count() != places.size()) {
-    ComboQTH->clear();
-    ComboQTH->addItems(places);
-  }
-  for (int i = 0; i < ComboQTH->count(); ++i) ComboQTH->setItemText(i, places[i]);
-  ComboQTH->setCurrentIndex(Model.ComboQTH.ListIndex);
-  ComboQTH->setVisible(Model.ComboQTH.Visible);
-  ComboQTH->setEnabled(Model.ComboQTH.Enabled);
+  Show(*ComboQTH, Model.ComboQTH);
 
   Show(*CmdOK, Model.CmdOK);
   Show(*CmdCancel, Model.CmdCancel);

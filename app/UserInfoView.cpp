@@ -114,16 +114,7 @@ void UserInfoView::Refresh() {
   Show(*mnuPostUserPaste, Model.mnuPostUserPaste);
 
   Show(*LabelUserProfile, Model.LabelUserProfile);
-  QStringList names;
-  for (const std::string& name : Model.ComboUserProfile.Items) names << ToQt(name);
-  if (ComboUserProfile->count() != names.size()) {
-    ComboUserProfile->clear();
-    ComboUserProfile->addItems(names);
-  }
-  for (int i = 0; i < ComboUserProfile->count(); ++i) ComboUserProfile->setItemText(i, names[i]);
-  ComboUserProfile->setCurrentIndex(Model.ComboUserProfile.ListIndex);
-  ComboUserProfile->setVisible(Model.ComboUserProfile.Visible);
-  ComboUserProfile->setEnabled(Model.ComboUserProfile.Enabled);
+  Show(*ComboUserProfile, Model.ComboUserProfile);
 
   // Opening the rename box selects the name, as the model asks, once.
   bool startsRename = !RenameShown && Model.TextRename.Visible;

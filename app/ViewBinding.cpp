@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 
 #include "platform/qt/QtConvert.h"
@@ -50,6 +51,19 @@ void Show(QAction& action, const MenuItem& item) {
   action.setEnabled(item.Enabled);
   action.setCheckable(item.Checked);
   action.setChecked(item.Checked);
+}
+
+void Show(QComboBox& widget, const ListBox& list) {
+  QStringList items;
+  for (const std::string& item : list.Items) items << ToQt(item);
+  if (widget.count() != items.size()) {
+    widget.clear();
+    widget.addItems(items);
+  }
+  for (int i = 0; i < widget.count(); ++i) widget.setItemText(i, items[i]);
+  widget.setCurrentIndex(list.ListIndex);
+  widget.setVisible(list.Visible);
+  widget.setEnabled(list.Enabled);
 }
 
 QLabel* MakeLabel(const char* name, QWidget* parent) {

@@ -9,6 +9,7 @@
 
 class QAbstractButton;
 class QAction;
+class QComboBox;
 class QLabel;
 class QWidget;
 
@@ -22,6 +23,8 @@ void Show(QAbstractButton& widget, const Button& button);
 void Show(QAbstractButton& widget, const OptionButton& option);
 void Show(QAbstractButton& widget, const CheckBox& check);
 void Show(QAction& action, const MenuItem& item);
+// A drop list: its items, the selected one, shown and enabled.
+void Show(QComboBox& widget, const ListBox& list);
 
 // A plain-text label named after its model member, keeping its place in the
 // layout while hidden so the form does not jump as labels come and go.
