@@ -1,5 +1,6 @@
 #include "DialogViews.h"
 
+#include "AboutTarnixView.h"
 #include "BandModeView.h"
 #include "ChCoFormView.h"
 #include "UserInfoView.h"
@@ -11,6 +12,8 @@ void RegisterDialogViews(QtFormHost& host) {
   host.Register("ChCoForm", &ModalFormView::RunModal<ChCoFormView, ChCoForm>);
   host.Register("BandMode", &ModalFormView::RunModal<BandModeView, BandMode>);
   host.Register("UserInfo", &ModalFormView::RunModal<UserInfoView, UserInfo>);
+  host.Register("AboutTarnix", &ModalFormView::RunModal<AboutTarnixView, AboutTarnix>);
+  host.RegisterModeless("AboutTarnix", &AboutTarnixView::MakeModeless);
 }
 
 }  // namespace tarnix

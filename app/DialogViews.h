@@ -1,12 +1,13 @@
 #pragma once
-// The modal forms' dialogs, registered with the form host under the names
+// The forms' dialogs, registered with the form host under the names
 // their models give.
 
 namespace tarnix {
 
 class QtFormHost;
 
-// Registers ChCoFormView for "ChCoForm" and BandModeView for "BandMode".
+// Registers each form's view under its model's name: ChCoForm, BandMode,
+// UserInfo and AboutTarnix (modal and, for the welcome screen, modeless).
 void RegisterDialogViews(QtFormHost& host);
 
 }  // namespace tarnix

@@ -54,7 +54,15 @@ LogFormView::LogFormView(LogForm& model, QWidget* parent) : QMainWindow(parent),
   setWindowTitle(QStringLiteral("TARNIX"));
   BuildMenus();
   BuildForm();
+  Model.Changed = [this] { Refresh(); };
   Refresh();
+}
+
+LogFormView::~LogFormView() { Model.Changed = nullptr; }
+
+void LogFormView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange) Forward([this] { Model.Form_Resize(isMinimized()); });
+  QMainWindow::changeEvent(event);
 }
 
 QAction* LogFormView::AddAction(QMenu* menu, const char* name, const MenuItem& item, void (LogForm::*click)()) {
@@ -77,6 +85,7 @@ void LogFormView::BuildMenus() {
   AddAction(file, "mnuFileOpenLog", Model.mnuFileOpenLog, &LogForm::mnuFileOpenLog_Click);
   AddAction(file, "mnuFileSave", Model.mnuFileSave, &LogForm::mnuFileSave_Click);
   AddAction(file, "mnuFileUserInfo", Model.mnuFileUserInfo, &LogForm::mnuFileUserInfo_Click);
+  AddAction(file, "mnuFileBackup", Model.mnuFileBackup, &LogForm::mnuFileBackup_Click);
   file->addSeparator();
   for (int i = 1; i <= 4; ++i) {
     QByteArray name = QStringLiteral("mnuFileArray%1").arg(i).toLatin1();
@@ -103,6 +112,9 @@ void LogFormView::BuildMenus() {
   AddAction(view, "mnuViewZnCty", Model.mnuViewZnCty, nullptr);
   AddAction(view, "mnuViewCW", Model.mnuViewCW, nullptr);
   AddAction(view, "mnuViewDvK", Model.mnuViewDvK, nullptr);
+
+  QMenu* help = addMenu("mnuHelp", Model.mnuHelp);
+  AddAction(help, "mnuHelpAbout", Model.mnuHelpAbout, &LogForm::mnuHelpAbout_Click);
 }
 
 void LogFormView::BuildForm() {
@@ -185,10 +197,12 @@ void LogFormView::BuildForm() {
   grid->addWidget(label("LabelNeededOn", Model.LabelNeededOn), 8, 0, 1, 2);
   grid->addWidget(label("NeedPfxLabel", Model.NeedPfxLabel), 8, 2, 1, 2);
   grid->addWidget(label("LblWpxCountry", Model.LblWpxCountry), 8, 4, 1, 2);
+  grid->addWidget(label("TimeGMTLabel", Model.TimeGMTLabel), 10, 0, 1, 2);
+  grid->addWidget(label("TimeLocalLabel", Model.TimeLocalLabel), 10, 2, 1, 2);
   grid->addWidget(label("CallMatchLabel1", Model.CallMatchLabel1), 9, 0, 1, 2);
   grid->addWidget(label("CallMatchLabel2", Model.CallMatchLabel2), 9, 2, 1, 2);
   grid->addWidget(label("OldCallMatchLabel", Model.OldCallMatchLabel), 9, 4, 1, 2);
-  grid->setRowStretch(10, 1);
+  grid->setRowStretch(11, 1);
   resize(720, 330);
 }
 

@@ -27,6 +27,7 @@ class LogFormView : public QMainWindow {
 
  public:
   explicit LogFormView(LogForm& model, QWidget* parent = nullptr);
+  ~LogFormView() override;
 
   // Copies every member the window shows from the model.
   void Refresh();
@@ -36,6 +37,8 @@ class LogFormView : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
   // The frame's close is File > Exit: it closes only when the model agrees.
   void closeEvent(QCloseEvent* event) override;
+  // Minimised and restored: the model hides and shows the view windows.
+  void changeEvent(QEvent* event) override;
 
  private:
   void BuildMenus();

@@ -5,6 +5,7 @@
 #include "DialogViews.h"
 #include "LogFormView.h"
 #include "config/AppPath.h"
+#include "operating/AboutTarnix.h"
 #include "operating/Context.h"
 #include "operating/LogForm.h"
 #include "operating/Startup.h"
@@ -17,14 +18,15 @@ int main(int argc, char** argv) {
   auto ctx = tarnix::MakeContext(tarnix::ResolveAppPath());
   tarnix::QtPlatform desk;
   tarnix::RegisterDialogViews(desk.Forms);
-  if (std::string error = tarnix::LoadProgramFolder(*ctx); !error.empty()) {
-    desk.Boxes.Show({"Can't find or read startup files tarnix125.ini or tarnix121.dat.  "
-                     "Make sure they are in the same drive/directory used to start program.\n\n" + error,
-                     "TARNIX", tarnix::MsgButtons::OK, tarnix::MsgIcon::Critical, tarnix::MsgAnswer::OK});
-    return 1;
-  }
+  tarnix::AboutTarnix welcome(desk.Timers, true);
+  desk.Forms.ShowModeless(welcome);
+  if (!tarnix::StartProgram(*ctx, desk.View)) return 1;
+
   tarnix::LogForm model(*ctx, desk.View);
   tarnix::LogFormView window(model);
   window.show();
+  model.CheckRecovery();
+  if (model.EndRequested) return 1;
+  window.Refresh();
   return app.exec();
 }

@@ -181,7 +181,7 @@ int New(const Args& args, std::ostream& out, std::ostream& err) {
   // operator's temporary log is never touched; Save As moves it out.
   TempFolder scratch;
   Session session(out, scratch.Path);
-  if (!session.Start(err)) return 1;
+  if (!session.Started) return 1;
   session.Desk.Time.Set(options.Clock);
   QueueContestChoice(session.Desk.Forms, options.Choice);
   session.Form.mnuFileNewLog_Click();
@@ -205,7 +205,7 @@ int Enter(const Args& args, std::istream& in, std::ostream& out, std::ostream& e
   std::unique_ptr<TempFolder> scratch;
   if (options.HasContest) scratch = std::make_unique<TempFolder>();
   Session session(out, scratch ? scratch->Path : std::string());
-  if (!session.Start(err)) return 1;
+  if (!session.Started) return 1;
   session.Desk.Time.Set(options.Clock);
   if (options.HasContest) {
     QueueContestChoice(session.Desk.Forms, options.Choice);
@@ -224,7 +224,7 @@ int Dump(const Args& args, std::ostream& out, std::ostream& err) {
     return 2;
   }
   Session session(out);
-  if (!session.Start(err) || !session.Open(Absolute(args[0]))) return 1;
+  if (!session.Started || !session.Open(Absolute(args[0]))) return 1;
   Context& ctx = *session.Ctx;
   std::string code = ctx.SavedHeader.HdrContest.Str();
   out << "HEADER\t" << code.substr(0, 3) << '\t' << code.substr(3, 2) << '\t' << ctx.SavedHeader.HdrQth.Str() << '\t'
@@ -242,7 +242,7 @@ int Demo(std::ostream& out, std::ostream& err) {
       "OH2BH 599 FINLAND", "ZL2IFB 599 WELLINGTON", "PY2SEX 599 SP",    "VK2IA 599 NSW"};
   TempFolder scratch;
   Session session(out, scratch.Path);
-  if (!session.Start(err)) return 1;
+  if (!session.Started) return 1;
   session.Desk.Time.Set({2026, 11, 22, 14, 0, 0});
   QueueContestChoice(session.Desk.Forms, Generic);
   LogForm& form = session.Form;

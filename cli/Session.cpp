@@ -13,24 +13,17 @@ void PrintMessageBox(std::ostream& out, const MessageBoxRequest& box) {
   out << "MSGBOX " << box.Title << '|' << text << '\n';
 }
 
-std::unique_ptr<Context> StartContext(const std::string& appPath, std::string& error) {
+}  // namespace
+
+// The start-up of the program on the program folder; its messages print.
+std::unique_ptr<Context> Session::Begin(std::ostream& out, const std::string& appPath) {
+  Desk.Boxes.OnShow = [&out](const MessageBoxRequest& box) { PrintMessageBox(out, box); };
   auto ctx = MakeContext(appPath.empty() ? ResolveAppPath() : appPath);
-  error = LoadProgramFolder(*ctx);
+  Started = StartProgram(*ctx, Desk.View);
   return ctx;
 }
 
-}  // namespace
-
-Session::Session(std::ostream& out, const std::string& appPath)
-    : Ctx(StartContext(appPath, StartError)), Form(*Ctx, Desk.View) {
-  Desk.Boxes.OnShow = [&out](const MessageBoxRequest& box) { PrintMessageBox(out, box); };
-}
-
-bool Session::Start(std::ostream& err) const {
-  if (StartError.empty()) return true;
-  err << "tarnix-cli: " << StartError << "\n";
-  return false;
-}
+Session::Session(std::ostream& out, const std::string& appPath) : Ctx(Begin(out, appPath)), Form(*Ctx, Desk.View) {}
 
 bool Session::Open(const std::string& path) {
   Desk.Files.Names.push_back(path);

@@ -17,15 +17,17 @@ class Session {
   // appPath empty: the program folder of the user ($TARNIX_HOME...).
   explicit Session(std::ostream& out, const std::string& appPath = {});
 
-  // Reports a start that failed (the program folder's files unreadable).
-  bool Start(std::ostream& err) const;
+  // False when the start failed (its MSGBOX line says why).
+  bool Started = false;
   // File > Open with the dialog answered by path; true when the log is open.
   bool Open(const std::string& path);
 
   ScriptedPlatform Desk;
-  std::string StartError;  // before Ctx: starting the context sets it
   std::unique_ptr<Context> Ctx;
   LogForm Form;
+
+ private:
+  std::unique_ptr<Context> Begin(std::ostream& out, const std::string& appPath);
 };
 
 }  // namespace tarnix::cli

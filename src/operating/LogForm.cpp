@@ -9,7 +9,10 @@
 
 namespace tarnix {
 
-LogForm::LogForm(Context& ctx, Platform& platform) : Ctx(ctx), Desk(platform) {
+LogForm::LogForm(Context& ctx, Platform& platform)
+    : Timer1(platform.Timers.CreateTimer([this] { Timer1_Timer(); })), Ctx(ctx), Desk(platform) {
+  Timer1->SetInterval(1000);
+  Timer1->SetEnabled(true);
   Form_Load();
 }
 

@@ -17,6 +17,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -50,6 +51,7 @@ class LogForm {
   Label LabelNeededOn, NeedPfxLabel, LblWpxCountry;
   Label CallMatchLabel1, CallMatchLabel2, OldCallMatchLabel;
   Label ActiveRadioLabel, LabelR1Freq, LabelR2Freq;
+  Label TimeGMTLabel, TimeLocalLabel;
   Button AddButton{"Add"};
   Button CancelButton{"Cancel"};
 
@@ -64,6 +66,12 @@ class LogForm {
       mnuViewARRLUSVEMults{"&US/VE Multipliers"}, mnuViewZnCty{"&Zones/Countries"},
       mnuViewCW{"CW &Messages"}, mnuViewDvK{"&Voice Keyer"};
   MenuItem mnuRadioWK{"&Radio"};
+  MenuItem mnuHelp{"&Help"}, mnuHelpAbout{"&About TARNIX..."};
+  std::unique_ptr<Timer> Timer1;  // the clock, every 1000 ms
+  int16_t ClockTicks = 0;         // every tenth tick updates the statistics
+  bool ViewWindowsShown = true;   // false while the main window is minimised
+  // Called when the form changed by itself (a timer), so a view redraws.
+  std::function<void()> Changed;
 
   // ---- Entry state ----
   QsoRecord EntryRecord;          // the record being built; keeps its values
@@ -122,6 +130,14 @@ class LogForm {
   void mnuEditKillALLEntries_Click();
   void mnuEditLastEntry_Click();
   void mnuEditSelectBands_Click();
+  void mnuFileBackup_Click();
+  void mnuHelpAbout_Click();
+
+  // Start-up's last step: a temporary log left by a crash is offered back.
+  void CheckRecovery();
+  void Timer1_Timer();
+  // The main window minimised or restored: the view windows go and come.
+  void Form_Resize(bool minimised);
 
   void RedrawQSONrLabel();
   void RedrawScore();
@@ -164,6 +180,7 @@ class LogForm {
   bool WriteWithRetry(const std::function<FileError()>& write);
   FileError WriteLogRecord(int n);
   bool WriteKilledFile();
+  void RotateUnsavedLogs();
   bool EmptyLogFile();
   void SetMenusForContest();
   bool HasLog() const;

@@ -17,4 +17,31 @@ std::string LoadProgramFolder(Context& ctx) {
   return {};
 }
 
+void CopyRadioDefaults(Settings& settings) {
+  for (int r = 1; r <= 2; ++r) {
+    RadioRecord& radio = settings.Radio[static_cast<std::size_t>(r)];
+    for (int row = 1; row <= RadioModelRows; ++row) {
+      const RadioRecord& model = settings.RadioDefaultSettings[static_cast<std::size_t>(row)];
+      if (model.Name != radio.Name) continue;
+      radio = model;
+      break;
+    }
+  }
+}
+
+bool StartProgram(Context& ctx, Platform& desk) {
+  ctx.Log.LogState = LogStateKind::None;
+  ctx.DialogCancelled = false;
+  ctx.ReloadFlag = false;
+  ResetLog(ctx.Log);
+  if (std::string error = LoadProgramFolder(ctx); !error.empty()) {
+    desk.Boxes.Show({"Can't find or read startup files tarnix125.ini or tarnix121.dat.  "
+                     "Make sure they are in the same drive/directory used to start program.\n\n" + error,
+                     "TARNIX", MsgButtons::OK, MsgIcon::Critical, MsgAnswer::OK});
+    return false;
+  }
+  CopyRadioDefaults(ctx.Config);
+  return true;
+}
+
 }  // namespace tarnix

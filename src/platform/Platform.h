@@ -62,7 +62,13 @@ class FormModel {
   virtual std::string FormName() const = 0;
   // What closing the window by its frame does: the form's Cancel.
   virtual void CloseByFrame() = 0;
+  // Hides the form on its own (a timer, say) and tells a modeless view.
+  void Hide() {
+    Visible = false;
+    if (Hidden) Hidden();
+  }
   bool Visible = false;
+  std::function<void()> Hidden;  // set by a modeless view to close itself
 };
 
 class FormHost {
@@ -70,6 +76,9 @@ class FormHost {
   virtual ~FormHost() = default;
   // Shows the form modally and returns when it has hidden itself.
   virtual void ShowModal(FormModel& form) = 0;
+  // Shows the form and returns at once; the view closes when the model hides
+  // itself. The form must outlive its view.
+  virtual void ShowModeless(FormModel& form) = 0;
 };
 
 struct LocalDateTime {

@@ -39,6 +39,11 @@ void ScriptedFormHost::ShowModal(FormModel& form) {
   form.Visible = false;
 }
 
+void ScriptedFormHost::ShowModeless(FormModel& form) {
+  Shown.push_back(form.FormName());
+  form.Visible = true;
+}
+
 class FakeTimer : public Timer {
  public:
   FakeTimer(FakeClock& clock, std::function<void()> onTick) : Owner(clock), OnTick(std::move(onTick)) {

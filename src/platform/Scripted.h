@@ -44,6 +44,9 @@ class ScriptedFormHost : public FormHost {
   // Runs the next action queued for the form's name; a form with no action, or
   // one still visible after it, is closed by its frame.
   void ShowModal(FormModel& form) override;
+  // Records the form and marks it shown; nothing more happens until the
+  // model hides itself.
+  void ShowModeless(FormModel& form) override;
 
   std::map<std::string, std::deque<Action>> Actions;
   std::vector<std::string> Shown;

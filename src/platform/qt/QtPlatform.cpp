@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTimer>
 
 #include "platform/qt/QtConvert.h"
@@ -139,6 +140,23 @@ void QtFormHost::ShowModal(FormModel& form) {
   // by its Cancel.
   if (form.Visible) form.CloseByFrame();
   form.Visible = false;
+}
+
+void QtFormHost::RegisterModeless(const std::string& formName, WindowMaker make) {
+  Makers[formName] = std::move(make);
+}
+
+void QtFormHost::ShowModeless(FormModel& form) {
+  form.Visible = true;
+  auto found = Makers.find(form.FormName());
+  if (found == Makers.end()) return;
+  QPointer<QWidget> window = found->second(form, QApplication::activeWindow());
+  if (!window) return;
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  form.Hidden = [window] {
+    if (window) window->close();
+  };
+  window->show();
 }
 
 }  // namespace tarnix

@@ -43,19 +43,26 @@ class QtEventPump : public EventPump {
   void DoEvents() override;
 };
 
-// Shows a form model modally through the dialog registered for its name. The
+// Shows a form model through the window registered for its name. The
 // dialogs live in the program, not here, so the program registers them.
 class QtFormHost : public FormHost {
  public:
   // Runs the dialog over the model and returns when the dialog has closed.
   using DialogRunner = std::function<void(FormModel& form, QWidget* parent)>;
 
+  // Makes the window of a modeless form; the host shows it and closes it
+  // when the model hides itself.
+  using WindowMaker = std::function<QWidget*(FormModel& form, QWidget* parent)>;
+
   void Register(const std::string& formName, DialogRunner run);
+  void RegisterModeless(const std::string& formName, WindowMaker make);
   bool Has(const std::string& formName) const { return Runners.count(formName) != 0; }
   void ShowModal(FormModel& form) override;
+  void ShowModeless(FormModel& form) override;
 
  private:
   std::map<std::string, DialogRunner> Runners;
+  std::map<std::string, WindowMaker> Makers;
 };
 
 // All Qt services together, with the Platform view of them.
