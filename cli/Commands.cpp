@@ -165,7 +165,10 @@ void Usage(std::ostream& out) {
          "      without, a throw-away log is used. Prints message boxes as\n"
          "      MSGBOX title|text, then every record of the log\n"
          "  dump LOG.TNX\n"
-         "      open the log as File > Open does and print HEADER, one line per QSO and TOTAL\n";
+         "      open the log as File > Open does and print HEADER, one line per QSO and TOTAL\n"
+         "  lookup CALL...\n"
+         "      resolve each call with the program folder's cty.dat: call, country row, name,\n"
+         "      CQ zone, continent, WPX prefix, NA zone, NA class, heading\n";
 }
 
 int New(const Args& args, std::ostream& out, std::ostream& err) {
@@ -235,7 +238,7 @@ int Dump(const Args& args, std::ostream& out, std::ostream& err) {
   return 0;
 }
 
-int Demo(std::ostream& out, std::ostream& err) {
+int Demo(std::ostream& out) {
   static const char* const kQsos[] = {
       "K3ZZZ 599 PA",      "W1AW 599 CT",         "DL1ABC 599 DOK B01", "JA1XYZ 599 TOKYO",
       "VE3EJ 599 ON",      "G4BUO 599 LONDON UK", "K6AW 599 CA",        "N5DX 599 TX",

@@ -12,7 +12,7 @@ namespace tarnix::cli {
 
 using Args = std::vector<std::string>;
 
-int Demo(std::ostream& out, std::ostream& err);
+int Demo(std::ostream& out);
 int New(const Args& args, std::ostream& out, std::ostream& err);
 int Enter(const Args& args, std::istream& in, std::ostream& out, std::ostream& err);
 int Dump(const Args& args, std::ostream& out, std::ostream& err);

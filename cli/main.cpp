@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Commands.h"
+#include "LookupCommand.h"
 
 int main(int argc, char** argv) {
   tarnix::cli::Args args(argv + 1, argv + argc);
@@ -14,10 +15,11 @@ int main(int argc, char** argv) {
   }
   std::string command = args[0];
   args.erase(args.begin());
-  if (command == "demo") return tarnix::cli::Demo(std::cout, std::cerr);
+  if (command == "demo") return tarnix::cli::Demo(std::cout);
   if (command == "new") return tarnix::cli::New(args, std::cout, std::cerr);
   if (command == "enter") return tarnix::cli::Enter(args, std::cin, std::cout, std::cerr);
   if (command == "dump") return tarnix::cli::Dump(args, std::cout, std::cerr);
+  if (command == "lookup") return tarnix::cli::Lookup(args, std::cout, std::cerr);
   std::cerr << "tarnix-cli: unknown command '" << command << "'\n";
   tarnix::cli::Usage(std::cerr);
   return 2;

@@ -17,7 +17,7 @@ namespace tarnix {
 std::string ResolveAppPath();
 
 // The files the program ships, by name, found in ShippedDataDir().
-inline constexpr std::array<std::string_view, 1> ShippedDataFiles = {"tarnix125.ini"};
+inline constexpr std::array<std::string_view, 2> ShippedDataFiles = {"tarnix125.ini", "tarnix121.dat"};
 
 // $TARNIX_DATA when set, else the data folder fixed at build time.
 std::string ShippedDataDir();

@@ -8,12 +8,15 @@
 #include <string>
 
 #include "config/Settings.h"
+#include "config/StartupData.h"
 #include "config/UserInfo.h"
 #include "core/Contest.h"
 #include "core/LogFile.h"
 #include "core/LogStore.h"
 #include "radio/RadioState.h"
 #include "rules/ContestCounters.h"
+#include "rules/Countries.h"
+#include "rules/MultiplierTables.h"
 
 namespace tarnix {
 
@@ -22,6 +25,9 @@ struct Context {
   Settings Config;
   ContestState Contest;
   LogStore Log;
+  StartupData Data;            // the contest data file, read once
+  CountryData Countries;       // the country list, read once
+  MultiplierTables Tables;     // loaded from Data for the open log
   ContestCounters Counters;
   RadioState Radio;
 

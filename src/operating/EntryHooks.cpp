@@ -4,7 +4,9 @@
 // does nothing, so a QSO passes through with the fields those rules would set
 // left as they stand. Each comment says what the hook is for.
 
+#include "core/Text.h"
 #include "operating/LogForm.h"
+#include "rules/Countries.h"
 
 namespace tarnix {
 
@@ -28,8 +30,9 @@ void LogForm::ShowDupe() {}
 // The contest's exchange parser: splits and checks the exchange box, sets
 // ExchangeError with the selection to show, and may correct ParsedCall.
 void LogForm::RunExchangeParser() {}
-// WPX prefix of the call into CurrentPrefix (WPX, CQWW, All Asian).
-void LogForm::TakePrefix() {}
+// WPX prefix of the call into CurrentPrefix (WPX, CQWW, All Asian); WPX
+// will also update its prefix lists here.
+void LogForm::TakePrefix() { CurrentPrefix = GetWPXPrefix(RemoveChars(ParsedCall, ".?")); }
 // CW Open: the list of worked calls, whose length is the multiplier count.
 void LogForm::AddWorkedCall(const std::string&) {}
 // A logged call with "/" joins the portable table of the dupe check.
@@ -61,10 +64,13 @@ void LogForm::PrefillExchange() {}
 void LogForm::ShowPriorQsos() {}
 void LogForm::LookUpInstaMatch() {}
 
-// The multiplier tables of the contest, reset as a log is opened.
-void LogForm::ResetMultiplierTables() {}
+// The multiplier tables of the contest, loaded from the data file with their
+// worked marks reset, as a log is opened.
+void LogForm::ResetMultiplierTables() {
+  LoadMultiplierTables(Ctx.Data, Ctx.Contest.ContestIndex, Ctx.Contest.InState, Ctx.Tables);
+}
 // The WPX prefix of a call, for the conversion of old WPX logs.
-std::string LogForm::WpxPrefixOf(const std::string&) { return {}; }
+std::string LogForm::WpxPrefixOf(const std::string& call) { return GetWPXPrefix(call); }
 
 // The QSO editor on QSO n: returns true when the QSO was changed.
 bool LogForm::EditQso(int) { return false; }

@@ -1,7 +1,9 @@
 #include "operating/Startup.h"
 
 #include "config/AppPath.h"
+#include "config/CountrySeed.h"
 #include "config/SettingsFile.h"
+#include "config/StartupData.h"
 
 namespace tarnix {
 
@@ -40,7 +42,23 @@ bool StartProgram(Context& ctx, Platform& desk) {
                      "TARNIX", MsgButtons::OK, MsgIcon::Critical, MsgAnswer::OK});
     return false;
   }
+  // The country list is not needed by every contest: without it the program
+  // goes on after saying so. A failed copy shows up as that missing list.
+  SeedCountryFile(ctx.AppPath);
+  CountryFileResult countries = ReadCountryFile(ctx.AppPath + "cty.dat", ctx.Countries);
+  if (!countries.Ok)
+    desk.Boxes.Show({countries.Message + "\n\n" + countries.Detail, "TARNIX", MsgButtons::OK, MsgIcon::Exclamation,
+                     MsgAnswer::OK});
   CopyRadioDefaults(ctx.Config);
+  StartupDataResult data = ReadStartupFile(ctx.AppPath + "tarnix121.dat", ctx.Data);
+  if (!data.Ok) {
+    desk.Boxes.Show({data.Error + "\n\n" + data.Detail, "TARNIX", MsgButtons::OK, MsgIcon::Critical, MsgAnswer::OK});
+    return false;
+  }
+  for (int radio = 1; radio <= 2; ++radio)
+    for (int band = 1; band <= BandIndexCount; ++band)
+      ctx.Radio.LastFreqByBand[static_cast<std::size_t>(radio)][static_cast<std::size_t>(band)] =
+          static_cast<float>(ctx.Data.BandFrequencies[static_cast<std::size_t>(band)]);
   return true;
 }
 

@@ -385,6 +385,7 @@ TEST(SettingsFile, SeedingCopiesOnlyMissingFiles) {
   fs::create_directories(dir.Path / "data");
   fs::create_directories(dir.Path / "home");
   std::ofstream(dir.Path / "data" / "tarnix125.ini") << "stock";
+  std::ofstream(dir.Path / "data" / "tarnix121.dat") << "data";
   std::string home = (dir.Path / "home").string() + "/";
   EXPECT_FALSE(SeedProgramFolder(home, (dir.Path / "data").string()).has_value());
   EXPECT_EQ(FileBytes(home + "tarnix125.ini"), "stock");

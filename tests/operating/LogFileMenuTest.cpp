@@ -163,7 +163,9 @@ TEST_F(LogFileMenuTest, OpensEveryShapeAndDamage) {
     EXPECT_EQ(ctx->Log.LogState, LogStateKind::Named);
     EXPECT_EQ(ctx->Log.QSOCount, row.qsoCount);
     EXPECT_EQ(ctx->Log.RecordLength, row.recordLength);
-    if (row.qsoCount > 1) EXPECT_EQ(LoggedRecord(ctx->Log, 1).QCall.Trimmed(), "K3ZZZ");
+    if (row.qsoCount > 1) {
+      EXPECT_EQ(LoggedRecord(ctx->Log, 1).QCall.Trimmed(), "K3ZZZ");
+    }
     EXPECT_EQ(ReadFile(path), row.bytes);  // opening writes nothing
   }
   EXPECT_EQ(ctx->Log.LogRecordsMid.At(1).QRcvText.Trimmed(), "BOB");

@@ -42,6 +42,29 @@ TEST(Startup, AMissingSettingsFileEndsTheStart) {
   EXPECT_EQ(desk.Boxes.Shown[0].Text.substr(0, message.size()), message);
 }
 
+TEST(Startup, ADamagedDataFileEndsTheStartAndAMissingCountryListDoesNot) {
+  TempFolder home;
+  std::ofstream(home.Path + "tarnix121.dat") << "[CQP X Coordinates]\r\n12, west\r\n";
+  ScriptedPlatform desk;
+  auto ctx = MakeContext(home.Path);
+  EXPECT_FALSE(StartProgram(*ctx, desk.View));
+  EXPECT_EQ(desk.Boxes.Shown.back().Icon, MsgIcon::Critical);
+  EXPECT_EQ(desk.Boxes.Shown.back().Text.substr(0, 61), "Can't find or read startup file tarnix121.dat, and can't proc");
+
+  // With the data file whole but the country list unreadable (a folder in
+  // its place), the start says so and goes on.
+  fs::remove(home.Path + "tarnix121.dat");
+  fs::remove(home.Path + "cty.dat");
+  fs::create_directory(home.Path + "cty.dat");
+  ScriptedPlatform desk2;
+  auto ctx2 = MakeContext(home.Path);
+  EXPECT_TRUE(StartProgram(*ctx2, desk2.View));
+  ASSERT_EQ(desk2.Boxes.Shown.size(), 1u);
+  EXPECT_EQ(desk2.Boxes.Shown[0].Icon, MsgIcon::Exclamation);
+  EXPECT_EQ(desk2.Boxes.Shown[0].Text.substr(0, 43), "Can't find or read country file cty.dat.  T");
+  EXPECT_EQ(ctx2->Radio.LastFreqByBand[2][3], 14025.0f);  // both radios start on the data's frequencies
+}
+
 TEST(Startup, RadiosTakeTheirModelsDefaults) {
   Settings s;
   s.RadioDefaultSettings[3] = {"Icom 756 Pro-A", "5C", 19200, 8, 'N', 1, true, false};
