@@ -94,6 +94,10 @@ class LogForm {
   std::string LastDupeCheckCall;  // the call of the last dupe check
   bool DupeCheckDone = false;     // LastDupeCheckCall is valid
 
+  // ---- Exchange parser state (EntryParsers.cpp) ----
+
+  // ---- Dupe check state (EntryDupes.cpp) ----
+
   // ---- What the form does ----
   void Form_Load();
   // Moves the focus, running the lost- and got-focus steps of the boxes.
