@@ -36,7 +36,6 @@ struct Context {
   LogHeader SavedHeader;       // the open log's header, written again by Kill All
   bool DialogCancelled = false;
   bool ReloadFlag = false;     // re-read the current log without asking
-  bool NewRequested = false;
 
   // The temporary file every new log starts in.
   std::string TempLogFileName() const { return AppPath + "!temp%!!.tnb"; }

@@ -43,7 +43,6 @@ void LogForm::mnuFileNewLog_Click() {
   CloseViewWindows();
   ResetLog(Ctx.Log);
   ResetCounters(Ctx.Counters);
-  Ctx.NewRequested = true;
   Ctx.LogFileName = Ctx.TempLogFileName();
   OpenNewLog();
 }
@@ -54,7 +53,6 @@ void LogForm::OpenNewLog() {
   ContestState before = Ctx.Contest;
   ChCoForm chooser(Ctx.Contest, Ctx.DialogCancelled);
   Desk.Forms.ShowModal(chooser);
-  Ctx.NewRequested = false;
   if (Ctx.DialogCancelled) {
     Ctx.Contest = before;
     Form_Load();
