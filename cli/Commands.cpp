@@ -166,6 +166,10 @@ void Usage(std::ostream& out) {
          "      MSGBOX title|text, then every record of the log\n"
          "  dump LOG.TNX\n"
          "      open the log as File > Open does and print HEADER, one line per QSO and TOTAL\n"
+         "  dupe LOG.TNX CALL [--band B]\n"
+         "      open the log, type CALL into the call box on band B (BandIndex 1..24, else the\n"
+         "      log's band) and print FoundInLog, FoundOnBand, IsDupe, DupeQSO, PortableMatch\n"
+         "      and the dupe line as the form shows it\n"
          "  lookup CALL...\n"
          "      resolve each call with the program folder's cty.dat: call, country row, name,\n"
          "      CQ zone, continent, WPX prefix, NA zone, NA class, heading\n";

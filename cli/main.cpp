@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Commands.h"
+#include "DupeCommand.h"
 #include "LookupCommand.h"
 
 int main(int argc, char** argv) {
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
   if (command == "new") return tarnix::cli::New(args, std::cout, std::cerr);
   if (command == "enter") return tarnix::cli::Enter(args, std::cin, std::cout, std::cerr);
   if (command == "dump") return tarnix::cli::Dump(args, std::cout, std::cerr);
+  if (command == "dupe") return tarnix::cli::Dupe(args, std::cout, std::cerr);
   if (command == "lookup") return tarnix::cli::Lookup(args, std::cout, std::cerr);
   std::cerr << "tarnix-cli: unknown command '" << command << "'\n";
   tarnix::cli::Usage(std::cerr);

@@ -16,6 +16,7 @@
 #include "radio/RadioState.h"
 #include "rules/ContestCounters.h"
 #include "rules/Countries.h"
+#include "rules/DupeCheck.h"
 #include "rules/MultiplierTables.h"
 
 namespace tarnix {
@@ -29,6 +30,7 @@ struct Context {
   CountryData Countries;       // the country list, read once
   MultiplierTables Tables;     // loaded from Data for the open log
   ContestCounters Counters;
+  PortableTable Portables;     // the log's calls with "/", for the dupe check
   RadioState Radio;
 
   std::string LogFileName;     // full path of the open log

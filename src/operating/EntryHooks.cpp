@@ -18,27 +18,15 @@ void LogForm::RunTextCommand(int) {}
 // Sends stored message 1..9 (F1..F7, F11, F12) by CW or voice; dual for the
 // dual CQ.
 void LogForm::SendMessageKey(int, bool) {}
+// Sends row 1..12 of the CW message table by itself (row 12: the message for
+// a dupe).
+void LogForm::SendMessageRow(int) {}
 
-// Scans the log for the call and sets IsDupe, FoundInLog and DupeQSO.
-void LogForm::DupeCheck(const std::string& call) {
-  LastDupeCheckCall = call;
-  DupeCheckDone = true;
-}
-// Fills the dupe line from DupeQSO.
-void LogForm::ShowDupe() {}
-
-// The contest's exchange parser: splits and checks the exchange box, sets
-// ExchangeError with the selection to show, and may correct ParsedCall.
-void LogForm::RunExchangeParser() {}
 // WPX prefix of the call into CurrentPrefix (WPX, CQWW, All Asian); WPX
 // will also update its prefix lists here.
 void LogForm::TakePrefix() { CurrentPrefix = GetWPXPrefix(RemoveChars(ParsedCall, ".?")); }
 // CW Open: the list of worked calls, whose length is the multiplier count.
 void LogForm::AddWorkedCall(const std::string&) {}
-// A logged call with "/" joins the portable table of the dupe check.
-void LogForm::AddPortable(const std::string&) {}
-// QRcvNumber and QRcvText from the parser's fields.
-void LogForm::TakeReceivedFields() {}
 // QPoints and QMult by the contest's rules, with NewMult and NewMultRow.
 void LogForm::ScoreEntry() {}
 // The multiplier step of QSO n when a log is replayed.
@@ -58,10 +46,7 @@ void LogForm::CloseViewWindows() {}
 void LogForm::CloseMessageWindows() {}
 void LogForm::ClearCallAssist() {}
 
-// Exchange pre-fill, the worked-before display and the InstaMatch lookup of
-// the exchange box's focus step.
-void LogForm::PrefillExchange() {}
-void LogForm::ShowPriorQsos() {}
+// The InstaMatch lookup of the exchange box's focus step.
 void LogForm::LookUpInstaMatch() {}
 
 // The multiplier tables of the contest, loaded from the data file with their

@@ -2,6 +2,7 @@
 // file, Save As, Exit, and the reload after a change to the file.
 
 #include <filesystem>
+#include <stdexcept>
 
 #include "config/SettingsFile.h"
 #include "core/ChCoForm.h"
@@ -43,6 +44,7 @@ void LogForm::mnuFileNewLog_Click() {
   CloseViewWindows();
   ResetLog(Ctx.Log);
   ResetCounters(Ctx.Counters);
+  ResetPortables(Ctx.Portables);
   Ctx.LogFileName = Ctx.TempLogFileName();
   OpenNewLog();
 }
@@ -112,6 +114,7 @@ void LogForm::OpenExisting(int recent) {
   CloseViewWindows();
   ResetLog(Ctx.Log);
   ResetCounters(Ctx.Counters);
+  ResetPortables(Ctx.Portables);
   Ctx.Log.LogState = LogStateKind::Named;
   Ctx.LogFileName = name;
   RememberLogName(name);
@@ -172,7 +175,15 @@ void LogForm::LoadLog() {
             " or out of state station.\n       Was the station in California?",
             "Need Station Location Info", MsgButtons::YesNo, MsgAnswer::Yes) == MsgAnswer::Yes;
   Ctx.SavedHeader = DecodeHeader(std::span(bytes.data(), std::min(bytes.size(), LogHeaderSize)));
-  AfterHeader(&bytes);
+  try {
+    AfterHeader(&bytes);
+  } catch (const std::out_of_range& error) {
+    // A log that overflows one of the program's fixed tables (more calls
+    // with "/" than the portable table holds, say) cannot be opened whole.
+    Tell("The log " + Ctx.LogFileName + " cannot be opened: " + error.what() + ".", "Log Too Large",
+         MsgIcon::Critical);
+    AbandonLoad();
+  }
 }
 
 // Reads the whole log file; a failure asks to retry, and anything else ends
@@ -276,6 +287,7 @@ void LogForm::ReloadLog() {
   Ctx.ReloadFlag = true;
   ResetLog(Ctx.Log);
   ResetCounters(Ctx.Counters);
+  ResetPortables(Ctx.Portables);
   ClearCallAssist();
   CloseMessageWindows();
   LoadLog();

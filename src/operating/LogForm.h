@@ -26,6 +26,7 @@
 #include "operating/Keys.h"
 #include "platform/Controls.h"
 #include "platform/Platform.h"
+#include "rules/Parsers.h"
 
 namespace tarnix {
 
@@ -77,7 +78,7 @@ class LogForm {
   QsoRecord EntryRecord;          // the record being built; keeps its values
   bool ExchangeError = false;     // set by a parser that refused
   int ErrorSelStart = 0, ErrorSelLength = 0;
-  bool ParserReopenedBox = false; // the SS parser reopened the box itself
+  bool ParserReopenedBox = false; // the parser selected and focused a box itself (WPX: the call box)
   std::string ParsedCall;         // the call as the parser leaves it
   bool IsDupe = false, FoundInLog = false;
   int16_t DupeQSO = 0;
@@ -95,8 +96,24 @@ class LogForm {
   bool DupeCheckDone = false;     // LastDupeCheckCall is valid
 
   // ---- Exchange parser state (EntryParsers.cpp) ----
+  // The received fields of the last parse, read by the logging step. A
+  // refused parse leaves the fields it did not reach as they were.
+  ReceivedFields Received;
 
   // ---- Dupe check state (EntryDupes.cpp) ----
+  // The last scan of the log for the call: IsDupe, FoundInLog and DupeQSO
+  // above are copied from it for the logging step.
+  DupeResult Dupes;
+  // The current-log match lists under the call box; on from the start.
+  bool CallMatchDisplay = true;
+  // The lists of logged calls beginning with partial, refreshed at each
+  // key in the call box; an empty call empties them.
+  void ShowCallMatches(const std::string& partial);
+  // Insert on CW with DupeSendMsgFlag set: a dupe gets message row 12 instead
+  // of the call and the entry is cleared. False when Insert is not for this.
+  bool SendDupeMessage();
+  // Sends row `row` of the CW message table.
+  void SendMessageRow(int row);
 
   // ---- What the form does ----
   void Form_Load();

@@ -103,8 +103,6 @@ void LogForm::ProcessEntry(int box, int shift) {
     TakeTime();
     TakeCall();
     if (!CountyLineRepeat) {
-      EntryRecord.QRcvNumber = 0;
-      if (c == AllAsian) EntryRecord.QRcvNumber = static_cast<int16_t>(RoundEven(Val(InData[ExchangeBox].Text)));
       TakeReceivedFields();
       if (IsDupe) EntryRecord.QPoints.Set("0");
       EntryRecord.QNumber = log.QSOCount;
@@ -391,6 +389,9 @@ void LogForm::InData_GotFocus(int box) {
 
 void LogForm::InData_LostFocus(int box) {
   if (box != CallBox) return;
+  // CQWW: the zone of the call's country goes into an empty exchange box,
+  // behind a blank, for the operator to overtype only when it differs.
+  if (Ctx.Contest.ContestIndex == Cqww && InData[ExchangeBox].Text.empty()) PrefillExchange();
   if (KeepMatchLabels) {
     KeepMatchLabels = false;
     return;
@@ -417,6 +418,8 @@ bool LogForm::InData_KeyDown(int box, int keyCode, int shift) {
       }
       return false;  // an ordinary blank in a multi-field exchange
     }
+    case KeyInsert:
+      return SendDupeMessage();
     default:
       return false;
   }
@@ -432,13 +435,16 @@ void LogForm::InData_KeyPress(int box, char keyAscii) {
   b.Text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(length), 1, ch);
   b.SelStart = start + 1;
   b.SelLength = 0;
+  if (box == CallBox && (std::isalnum(static_cast<unsigned char>(ch)) || ch == '/')) ShowCallMatches(b.Text);
 }
 
+// Backspace, Delete and pastes come here from the view.
 void LogForm::InData_Change(int box, const std::string& text, int selStart) {
   TextBox& b = InData[static_cast<std::size_t>(box)];
   b.Text = text;
   b.SelStart = selStart;
   b.SelLength = 0;
+  if (box == CallBox && HasLog()) ShowCallMatches(b.Text);
 }
 
 void LogForm::AddButton_Click() { ProcessEntry(FocusedBox == ExchangeBox ? ExchangeBox : CallBox, 0); }
