@@ -83,7 +83,6 @@ class LogForm {
   bool IsDupe = false, FoundInLog = false;
   int16_t DupeQSO = 0;
   bool CountyLine = false;
-  bool CountyLineRepeat = false;  // the CQP parser has filled the fields itself
   bool NewMult = false;
   int16_t NewMultRow = 0;
   bool ApostropheLogged = false;

@@ -102,13 +102,11 @@ void LogForm::ProcessEntry(int box, int shift) {
   try {
     TakeTime();
     TakeCall();
-    if (!CountyLineRepeat) {
-      TakeReceivedFields();
-      if (IsDupe) EntryRecord.QPoints.Set("0");
-      EntryRecord.QNumber = log.QSOCount;
-      ScoreEntry();
-      TakeRadioAndFrequency();
-    }
+    TakeReceivedFields();
+    if (IsDupe) EntryRecord.QPoints.Set("0");
+    EntryRecord.QNumber = log.QSOCount;
+    ScoreEntry();
+    TakeRadioAndFrequency();
     StoreEntry();
 
     CountPoints(EntryRecord);
