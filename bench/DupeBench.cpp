@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "BenchLogs.h"
 #include "core/ChCoForm.h"
 #include "core/LogStore.h"
 #include "core/Text.h"
@@ -19,23 +20,7 @@
 namespace {
 
 using namespace tarnix;
-
-// 8000 distinct calls with sums spread as real calls have them.
-std::vector<std::string> SpreadCalls() {
-  static const char* const kPrefixes[] = {"K", "W", "N", "AA", "DL", "G", "JA", "VE", "OH", "PY"};
-  std::vector<std::string> calls;
-  unsigned seed = 12345;
-  for (int i = 0; i < MaxQsos; ++i) {
-    seed = seed * 1103515245u + 12345u;
-    std::string call = kPrefixes[seed % 10];
-    call += static_cast<char>('0' + (seed >> 8) % 10);
-    call += static_cast<char>('A' + i % 26);
-    call += static_cast<char>('A' + (i / 26) % 26);
-    call += static_cast<char>('A' + (i / 676) % 26);
-    calls.push_back(call);
-  }
-  return calls;
-}
+using bench::MakeCalls;
 
 // 8000 distinct calls "K3" and four letters, all with the character sum of
 // "K3MMMM": every one passes the quick filter for that call.
@@ -84,7 +69,7 @@ void Scan(benchmark::State& state, const std::vector<std::string>& calls, const 
 }
 
 // A call not in the log, against calls of spread sums: the usual case.
-void BM_ScanSpreadSums(benchmark::State& state) { Scan(state, SpreadCalls(), "K3ZZZ", PortableTable{}); }
+void BM_ScanSpreadSums(benchmark::State& state) { Scan(state, MakeCalls(MaxQsos), "K3ZZZ", PortableTable{}); }
 BENCHMARK(BM_ScanSpreadSums)->Unit(benchmark::kMicrosecond);
 
 // Worst case: all 8000 QSOs share the call's sum and are compared as text.
