@@ -29,22 +29,32 @@ bool SamePath(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-void LogForm::mnuFileNewLog_Click() {
-  if (Ctx.Log.LogState == LogStateKind::Named &&
-      Ask("A log file is already open.  Do you want to start a new one? ", "Log Already Opened", MsgButtons::YesNo,
-          MsgAnswer::No) == MsgAnswer::No)
-    return;
-  if (Ctx.Log.LogState == LogStateKind::Unnamed) {
-    MsgAnswer answer = Ask("Save current log file? ", "Save Current File?", MsgButtons::YesNoCancel, MsgAnswer::Yes);
-    if (answer == MsgAnswer::Cancel) return;
-    if (answer == MsgAnswer::Yes) SaveAs();
-    if (Ctx.Log.LogState == LogStateKind::Unnamed && Ctx.LogFileName == Ctx.TempLogFileName()) DeleteTempLogFile();
-  }
-  Ctx.Log.LogState = LogStateKind::None;
-  CloseViewWindows();
+// The store, the contest counters and the portable table, emptied for a
+// log about to be loaded.
+void LogForm::ClearLogState() {
   ResetLog(Ctx.Log);
   ResetCounters(Ctx.Counters);
   ResetPortables(Ctx.Portables);
+}
+
+// The questions before the open log is left for another: a named log asks
+// whether to go on (namedQuestion), an unnamed one offers Save As. False
+// when the operator stays.
+bool LogForm::MayLeaveCurrentLog(const std::string& namedQuestion) {
+  if (Ctx.Log.LogState == LogStateKind::Named)
+    return Ask(namedQuestion, "Log Already Opened", MsgButtons::YesNo, MsgAnswer::No) == MsgAnswer::Yes;
+  if (Ctx.Log.LogState != LogStateKind::Unnamed) return true;
+  MsgAnswer answer = Ask("Save current log file? ", "Save Current File?", MsgButtons::YesNoCancel, MsgAnswer::Yes);
+  if (answer == MsgAnswer::Yes) SaveAs();
+  return answer != MsgAnswer::Cancel;
+}
+
+void LogForm::mnuFileNewLog_Click() {
+  if (!MayLeaveCurrentLog("A log file is already open.  Do you want to start a new one? ")) return;
+  if (Ctx.Log.LogState == LogStateKind::Unnamed && Ctx.LogFileName == Ctx.TempLogFileName()) DeleteTempLogFile();
+  Ctx.Log.LogState = LogStateKind::None;
+  CloseViewWindows();
+  ClearLogState();
   Ctx.LogFileName = Ctx.TempLogFileName();
   OpenNewLog();
 }
@@ -85,15 +95,7 @@ void LogForm::mnuFileArray_Click(int recent) { OpenExisting(recent); }
 // Open and the recent files. The name is asked for before the log in memory
 // is reset, so that a cancelled dialog leaves the open log as it was.
 void LogForm::OpenExisting(int recent) {
-  if (Ctx.Log.LogState == LogStateKind::Named &&
-      Ask("A log file is already open.  Do you want to open a different one?", "Log Already Opened",
-          MsgButtons::YesNo, MsgAnswer::No) == MsgAnswer::No)
-    return;
-  if (Ctx.Log.LogState == LogStateKind::Unnamed) {
-    MsgAnswer answer = Ask("Save current log file? ", "Save Current File?", MsgButtons::YesNoCancel, MsgAnswer::Yes);
-    if (answer == MsgAnswer::Cancel) return;
-    if (answer == MsgAnswer::Yes) SaveAs();
-  }
+  if (!MayLeaveCurrentLog("A log file is already open.  Do you want to open a different one?")) return;
 
   std::string name;
   if (recent >= 1 && recent <= 4) {
@@ -112,9 +114,7 @@ void LogForm::OpenExisting(int recent) {
 
   WriteSettings();
   CloseViewWindows();
-  ResetLog(Ctx.Log);
-  ResetCounters(Ctx.Counters);
-  ResetPortables(Ctx.Portables);
+  ClearLogState();
   Ctx.Log.LogState = LogStateKind::Named;
   Ctx.LogFileName = name;
   RememberLogName(name);
@@ -199,7 +199,7 @@ bool LogForm::ReadLogFile(std::string& bytes) {
 // A load that cannot go on leaves no log open; the file is untouched.
 void LogForm::AbandonLoad() {
   Ctx.Log.LogState = LogStateKind::None;
-  ResetLog(Ctx.Log);
+  ClearLogState();
   Form_Load();
 }
 
@@ -285,9 +285,7 @@ void LogForm::LoadRecords(const std::string& bytes) {
 
 void LogForm::ReloadLog() {
   Ctx.ReloadFlag = true;
-  ResetLog(Ctx.Log);
-  ResetCounters(Ctx.Counters);
-  ResetPortables(Ctx.Portables);
+  ClearLogState();
   ClearCallAssist();
   CloseMessageWindows();
   LoadLog();

@@ -183,6 +183,8 @@ class LogForm {
   void InData_LostFocus(int box);
 
   // Log steps (LogFileMenu.cpp).
+  void ClearLogState();
+  bool MayLeaveCurrentLog(const std::string& namedQuestion);
   void OpenNewLog();
   void OpenExisting(int recent);
   void RememberLogName(const std::string& name);
