@@ -165,7 +165,8 @@ void Usage(std::ostream& out) {
          "      without, a throw-away log is used. Prints message boxes as\n"
          "      MSGBOX title|text, then every record of the log\n"
          "  dump LOG.TNX\n"
-         "      open the log as File > Open does and print HEADER, one line per QSO and TOTAL\n"
+         "      open the log as File > Open does and print HEADER, one line per QSO, TOTAL and\n"
+         "      a BAND line for each BandIndex with QSOs\n"
          "  dupe LOG.TNX CALL [--band B]\n"
          "      open the log, type CALL into the call box on band B (BandIndex 1..24, else the\n"
          "      log's band) and print FoundInLog, FoundOnBand, IsDupe, DupeQSO, PortableMatch\n"
@@ -237,8 +238,14 @@ int Dump(const Args& args, std::ostream& out, std::ostream& err) {
   out << "HEADER\t" << code.substr(0, 3) << '\t' << code.substr(3, 2) << '\t' << ctx.SavedHeader.HdrQth.Str() << '\t'
       << (ctx.Log.WideLog ? 1 : 0) << '\n';
   PrintRecords(out, ctx);
-  out << "TOTAL\t" << ctx.Log.QSOCount - 1 << '\t' << ctx.Log.TotalQSOPoints << '\t' << ctx.Log.TotalMults << '\t'
-      << ctx.Log.ClaimedScore << '\n';
+  const LogStore& log = ctx.Log;
+  out << "TOTAL\t" << log.QSOCount - 1 << '\t' << log.TotalQSOPoints << '\t' << log.TotalMults << '\t'
+      << log.ClaimedScore << '\n';
+  for (int band = 1; band <= BandIndexCount; ++band) {
+    auto b = static_cast<std::size_t>(band);
+    if (log.BandQSOs[b] == 0) continue;
+    out << "BAND\t" << band << '\t' << log.BandQSOs[b] << '\t' << log.BandPoints[b] << '\t' << log.BandMults[b] << '\n';
+  }
   return 0;
 }
 

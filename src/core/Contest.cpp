@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "core/Bands.h"
+#include "core/Text.h"
 
 
 namespace tarnix {
@@ -24,12 +25,6 @@ const std::array<ContestInfo, ContestCount + 1> kContests = {{
     {"[GENERIC] -- Generic Logging", "GEN", "Generic Log"},
     {"CWO -- CW Ops CW Open", "CWO", "CWO"},
 }};
-
-bool OneOf(int value, std::initializer_list<int> set) {
-  for (int v : set)
-    if (v == value) return true;
-  return false;
-}
 
 }  // namespace
 

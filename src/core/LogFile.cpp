@@ -13,8 +13,6 @@ constexpr std::size_t OffReserved1 = 0, OffReserved2 = 2, OffWide = 4, OffReserv
 
 constexpr std::string_view kContinents = "AFASEUNAOCSA";  // digits "4".."9" in this order
 
-bool OneOf(int value, std::initializer_list<int> set) { return std::find(set.begin(), set.end(), value) != set.end(); }
-
 // Continent of a location digit "4".."9", or empty.
 std::string ContinentOfDigit(char digit) {
   if (digit < '4' || digit > '9') return {};

@@ -3,11 +3,20 @@
 // width fields after trimming and reads numbers the forgiving way an operator
 // expects: "599 K" is 599, "K" is 0.
 
+#include <algorithm>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace tarnix {
+
+// Whether a value is one of a short list: OneOf(contest, {Cqp, Paqp}).
+template <typename T>
+bool OneOf(const T& value, std::initializer_list<std::type_identity_t<T>> set) {
+  return std::find(set.begin(), set.end(), value) != set.end();
+}
 
 // The number a text begins with (after leading blanks), 0 if it begins with
 // none. Accepts a sign and a decimal fraction: "-8" is -8, "14025.5 kHz" is

@@ -25,14 +25,6 @@ void LogForm::SendMessageRow(int) {}
 // WPX prefix of the call into CurrentPrefix (WPX, CQWW, All Asian); WPX
 // will also update its prefix lists here.
 void LogForm::TakePrefix() { CurrentPrefix = GetWPXPrefix(RemoveChars(ParsedCall, ".?")); }
-// CW Open: the list of worked calls, whose length is the multiplier count.
-void LogForm::AddWorkedCall(const std::string&) {}
-// QPoints and QMult by the contest's rules, with NewMult and NewMultRow.
-void LogForm::ScoreEntry() {}
-// The multiplier step of QSO n when a log is replayed.
-void LogForm::ScoreReplayed(int) {}
-// The contest's own point counters.
-void LogForm::CountContestPoints() {}
 // Splits the time since the previous QSO over bands and modes.
 void LogForm::SplitQSOTime(int) {}
 

@@ -27,6 +27,7 @@
 #include "platform/Controls.h"
 #include "platform/Platform.h"
 #include "rules/Parsers.h"
+#include "rules/Scoring.h"
 
 namespace tarnix {
 
@@ -218,9 +219,6 @@ class LogForm {
   void AddWorkedCall(const std::string& call);
   void AddPortable(const std::string& call);
   void TakeReceivedFields();
-  void ScoreEntry();
-  void ScoreReplayed(int n);
-  void CountContestPoints();
   void SplitQSOTime(int n);
   void RedrawMultipliers();
   void UpdateStats();
@@ -238,6 +236,21 @@ class LogForm {
   bool EditQso(int n);
   void WriteSettings();
   void CloseWinkey();
+
+  // ---- Scoring state (EntryScoring.cpp) ----
+  // The points and multiplier steps of the QSO being logged (step 12), and
+  // the multiplier step of QSO n when a log is replayed; both set NewMult and
+  // NewMultRow.
+  void ScoreEntry();
+  void ScoreReplayed(int n);
+  // A counted QSO's points into the totals and the contest's counters.
+  void CountContestPoints(const QsoRecord& qso);
+  // LabelNeededOn while the exchange is typed.
+  void ShowNeededOn();
+  // NeedPfxLabel and LblWpxCountry for the call in the call box.
+  void ShowWorkedOrNeeded();
+  // The rules' view of the open log.
+  ScoringState Scoring();
 
   MsgAnswer Ask(const std::string& text, const std::string& title, MsgButtons buttons, MsgAnswer dflt,
                 MsgIcon icon = MsgIcon::Question);

@@ -13,12 +13,6 @@
 namespace tarnix {
 namespace {
 
-bool OneOf(int value, std::initializer_list<int> set) {
-  for (int v : set)
-    if (v == value) return true;
-  return false;
-}
-
 // Frequency text of a record: shortest decimal form, at most ten characters.
 std::string FrequencyText(float kHz) {
   char text[32];
@@ -191,15 +185,12 @@ void LogForm::ListCall(const std::string& call) {
 // counters of its band.
 void LogForm::CountPoints(const QsoRecord& qso) {
   LogStore& log = Ctx.Log;
-  auto band = static_cast<std::size_t>(qso.QBand);
-  int points = static_cast<int>(Val(qso.QPoints.Str()));
-  log.TotalQSOPoints += points;
-  log.BandPoints.at(band) = static_cast<int16_t>(log.BandPoints.at(band) + points);
-  CountContestPoints();
+  CountContestPoints(qso);
+  // ARRL DX and ARRL 10 count their multipliers in their multiplier step.
   int c = Ctx.Contest.ContestIndex;
   if (c != ArrlDx && c != Ten && NewMult) {
     ++log.TotalMults;
-    ++log.BandMults.at(band);
+    ++log.BandMults.at(static_cast<std::size_t>(qso.QBand));
   }
 }
 
@@ -347,10 +338,7 @@ void LogForm::RedrawQSONrLabel() {
 
 void LogForm::RedrawScore() {
   LogStore& log = Ctx.Log;
-  if (Ctx.Contest.ContestIndex == Paqp)
-    log.ClaimedScore = static_cast<int32_t>(RoundEven(log.TotalQSOPoints / 10.0 * log.TotalMults));
-  else
-    log.ClaimedScore = log.TotalQSOPoints * log.TotalMults;
+  log.ClaimedScore = ClaimedScoreOf(Ctx.Contest.ContestIndex, log.TotalQSOPoints, log.TotalMults);
   if (Ctx.Contest.ContestIndex == Generic) {
     ScoreLabel.Caption = " CW Cties: " + std::to_string(CountriesWorked(Ctx.Counters.CWCountryCount));
     MultsLabel.Caption = "SSB Cties: " + std::to_string(CountriesWorked(Ctx.Counters.SSBCountryCount));
@@ -390,6 +378,7 @@ void LogForm::InData_LostFocus(int box) {
   // CQWW: the zone of the call's country goes into an empty exchange box,
   // behind a blank, for the operator to overtype only when it differs.
   if (Ctx.Contest.ContestIndex == Cqww && InData[ExchangeBox].Text.empty()) PrefillExchange();
+  if (HasLog()) ShowWorkedOrNeeded();
   if (KeepMatchLabels) {
     KeepMatchLabels = false;
     return;
@@ -434,6 +423,7 @@ void LogForm::InData_KeyPress(int box, char keyAscii) {
   b.SelStart = start + 1;
   b.SelLength = 0;
   if (box == CallBox && (std::isalnum(static_cast<unsigned char>(ch)) || ch == '/')) ShowCallMatches(b.Text);
+  if (box == ExchangeBox) ShowNeededOn();
 }
 
 // Backspace, Delete and pastes come here from the view.
@@ -443,6 +433,7 @@ void LogForm::InData_Change(int box, const std::string& text, int selStart) {
   b.SelStart = selStart;
   b.SelLength = 0;
   if (box == CallBox && HasLog()) ShowCallMatches(b.Text);
+  if (box == ExchangeBox && HasLog()) ShowNeededOn();
 }
 
 void LogForm::AddButton_Click() { ProcessEntry(FocusedBox == ExchangeBox ? ExchangeBox : CallBox, 0); }

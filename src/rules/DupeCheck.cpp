@@ -11,10 +11,6 @@
 namespace tarnix {
 namespace {
 
-bool OneOf(int value, std::initializer_list<int> set) {
-  return std::find(set.begin(), set.end(), value) != set.end();
-}
-
 // Contests whose log holds one mode: the grid shows only that mode's line.
 bool SingleModeGrid(int contest) { return OneOf(contest, {ArrlDx, Cqww, Wpx, AllAsian, Naqp, CwOpen, Sprint}); }
 

@@ -4,16 +4,13 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "core/Text.h"
 #include "rules/Countries.h"
 
 namespace tarnix {
 namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-bool OneOf(std::string_view text, std::initializer_list<std::string_view> list) {
-  return std::find(list.begin(), list.end(), text) != list.end();
-}
 
 // Inclusive range of texts: "AA" to "AG" holds "AC".
 bool Between(std::string_view text, std::string_view low, std::string_view high) {
