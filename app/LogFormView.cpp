@@ -1,5 +1,6 @@
 #include "LogFormView.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QFocusEvent>
 #include <QFontDatabase>
@@ -12,44 +13,12 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 
+#include "KeyMap.h"
 #include "ViewBinding.h"
 #include "operating/Keys.h"
 #include "platform/qt/QtConvert.h"
 
 namespace tarnix {
-namespace {
-
-// The model's key code of a Qt key, or 0 for a key it has no name for.
-int KeyCodeOf(int qtKey) {
-  switch (qtKey) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter: return KeyEnter;
-    case Qt::Key_Space: return KeySpace;
-    case Qt::Key_Backspace: return KeyBackspace;
-    case Qt::Key_Tab: return KeyTab;
-    case Qt::Key_Escape: return KeyEscape;
-    case Qt::Key_PageUp: return KeyPageUp;
-    case Qt::Key_PageDown: return KeyPageDown;
-    case Qt::Key_Left: return KeyLeft;
-    case Qt::Key_Up: return KeyUp;
-    case Qt::Key_Right: return KeyRight;
-    case Qt::Key_Down: return KeyDown;
-    case Qt::Key_Insert: return KeyInsert;
-    case Qt::Key_Delete: return KeyDelete;
-    case Qt::Key_Apostrophe: return KeyApostrophe;
-    default: break;
-  }
-  if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F12) return KeyF1 + (qtKey - Qt::Key_F1);
-  return 0;
-}
-
-int ShiftBitsOf(Qt::KeyboardModifiers modifiers) {
-  return (modifiers & Qt::ShiftModifier ? ShiftMask : 0) | (modifiers & Qt::ControlModifier ? CtrlMask : 0) |
-         (modifiers & Qt::AltModifier ? AltMask : 0);
-}
-
-}  // namespace
-
 LogFormView::LogFormView(LogForm& model, QWidget* parent) : QMainWindow(parent), Model(model) {
   setWindowTitle(QStringLiteral("TARNIX"));
   BuildMenus();
@@ -130,6 +99,13 @@ void LogFormView::BuildForm() {
     return widget;
   };
   grid->addWidget(label("FileIDLabel", Model.FileIDLabel), 0, 0, 1, 6);
+  // The keyboard CW box of Caps Lock takes the title line's place.
+  grid->addWidget(label("KeyboardCWLabel", Model.KeyboardCWLabel), 0, 0);
+  KeyboardCWText = new QLineEdit(Form);
+  KeyboardCWText->setObjectName(QStringLiteral("KeyboardCWText"));
+  KeyboardCWText->installEventFilter(this);
+  KeyboardCWText->setContextMenuPolicy(Qt::NoContextMenu);  // it is only typed into
+  grid->addWidget(KeyboardCWText, 0, 1, 1, 5);
   QLabel* last = label("LastQSOLabel", Model.LastQSOLabel);
   QFont bold = last->font();
   bold.setBold(true);
@@ -202,7 +178,29 @@ void LogFormView::BuildForm() {
   grid->addWidget(label("CallMatchLabel1", Model.CallMatchLabel1), 9, 0, 1, 2);
   grid->addWidget(label("CallMatchLabel2", Model.CallMatchLabel2), 9, 2, 1, 2);
   grid->addWidget(label("OldCallMatchLabel", Model.OldCallMatchLabel), 9, 4, 1, 2);
-  grid->setRowStretch(11, 1);
+  // The sending controls: the CW speeds, or the voice keyer's mode and what
+  // Insert speaks.
+  auto* speeds = new QHBoxLayout;
+  for (auto [name, model] : {std::pair{"lblCWPC", &Model.lblCWPC}, std::pair{"lblSpeedCW", &Model.lblSpeedCW},
+                             std::pair{"lblCWWK", &Model.lblCWWK}, std::pair{"lblSpeedWK", &Model.lblSpeedWK},
+                             std::pair{"DVKSpeedLabel", &Model.DVKSpeedLabel}})
+    speeds->addWidget(label(name, *model));
+  grid->addLayout(speeds, 10, 4, 1, 2);
+  auto* voice = new QHBoxLayout;
+  for (auto [name, model] : {std::pair{"CheckCall", &Model.CheckCall},
+                             std::pair{"CheckExchange", &Model.CheckExchange},
+                             std::pair{"CheckGreeting", &Model.CheckGreeting},
+                             std::pair{"CheckThanks", &Model.CheckThanks}}) {
+    auto* box = new QCheckBox(Form);
+    box->setObjectName(QString::fromLatin1(name));
+    box->setFocusPolicy(Qt::NoFocus);
+    CheckBox* check = model;
+    connect(box, &QCheckBox::toggled, this, [this, check](bool on) { Forward([&] { check->Value = on; }); });
+    Checks.emplace_back(box, model);
+    voice->addWidget(box);
+  }
+  grid->addLayout(voice, 11, 0, 1, 6);
+  grid->setRowStretch(12, 1);
   resize(720, 330);
 }
 
@@ -211,16 +209,18 @@ void LogFormView::Refresh() {
   SetColour(*Form, QPalette::Window, Model.BackColor);
   for (auto& [widget, label] : Labels) Show(*widget, *label);
   for (auto& [action, item] : Menus) Show(*action, *item);
+  for (auto& [widget, check] : Checks) Show(*widget, *check);
   Show(*AddButton, Model.AddButton);
   Show(*CancelButton, Model.CancelButton);
-  RefreshBox(CallBox);
-  RefreshBox(ExchangeBox);
-  if (Model.FocusedBox != NoBox) InData[static_cast<std::size_t>(Model.FocusedBox)]->setFocus(Qt::OtherFocusReason);
+  RefreshBox(*InData[CallBox], Model.InData[CallBox]);
+  RefreshBox(*InData[ExchangeBox], Model.InData[ExchangeBox]);
+  RefreshBox(*KeyboardCWText, Model.KeyboardCWText);
+  if (Model.FocusedBox == KeyboardCWFocus) KeyboardCWText->setFocus(Qt::OtherFocusReason);
+  else if (Model.FocusedBox != NoBox)
+    InData[static_cast<std::size_t>(Model.FocusedBox)]->setFocus(Qt::OtherFocusReason);
 }
 
-void LogFormView::RefreshBox(int box) {
-  const TextBox& model = Model.InData[static_cast<std::size_t>(box)];
-  QLineEdit& edit = *InData[static_cast<std::size_t>(box)];
+void LogFormView::RefreshBox(QLineEdit& edit, const TextBox& model) {
   edit.setVisible(model.Visible);
   edit.setEnabled(model.Enabled);
   SetColour(edit, QPalette::Text, model.ForeColor);
@@ -234,6 +234,10 @@ void LogFormView::RefreshBox(int box) {
 }
 
 bool LogFormView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == KeyboardCWText && event->type() == QEvent::KeyPress) {
+    KeyboardCWKeyPressed(static_cast<const QKeyEvent&>(*event));
+    return true;
+  }
   for (int box : {CallBox, ExchangeBox}) {
     if (watched != InData[static_cast<std::size_t>(box)]) continue;
     if (event->type() == QEvent::KeyPress) return KeyPressed(box, static_cast<const QKeyEvent&>(*event));
@@ -251,10 +255,14 @@ bool LogFormView::eventFilter(QObject* watched, QEvent* event) {
 // A key in an entry box: first the model's key-down, then a printable
 // character as the model's key-press. Editing keys and shortcuts the model
 // leaves go on to the box, whose changes come back through its signals.
+//
+// A key can arrive while the model is inside a handler that pumps events (a
+// message going out, a message box): the model's handlers allow that, and
+// each forwarded key redraws on its own.
 bool LogFormView::KeyPressed(int box, const QKeyEvent& key) {
-  if (int code = KeyCodeOf(key.key()); code != 0) {
+  if (std::optional<NamedKey> named = FormKeyOf(key.key(), key.modifiers())) {
     bool used = false;
-    Forward([&] { used = Model.InData_KeyDown(box, code, ShiftBitsOf(key.modifiers())); });
+    Forward([&] { used = Model.InData_KeyDown(box, named->Code, named->Shift); });
     if (used) return true;
   }
   QString text = key.text();
@@ -264,6 +272,17 @@ bool LogFormView::KeyPressed(int box, const QKeyEvent& key) {
   char16_t ch = text[0].unicode();
   if (ch < 0x80) Forward([&] { Model.InData_KeyPress(box, static_cast<char>(ch)); });
   return true;
+}
+
+// Every key of the keyboard CW box goes to the model: Caps Lock closes the
+// box, a character is sent at once, and nothing is edited in it.
+void LogFormView::KeyboardCWKeyPressed(const QKeyEvent& key) {
+  std::optional<NamedKey> named = FormKeyOf(key.key(), key.modifiers());
+  bool used = false;
+  if (named) Forward([&] { used = Model.KeyboardCWText_KeyDown(named->Code); });
+  QString text = key.text();
+  if (used || text.size() != 1 || !text[0].isPrint() || text[0].unicode() >= 0x80) return;
+  Forward([&] { Model.KeyboardCWText_KeyPress(static_cast<char>(text[0].unicode())); });
 }
 
 void LogFormView::EndProgram() {

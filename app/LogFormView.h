@@ -14,6 +14,7 @@
 #include "operating/LogForm.h"
 
 class QAction;
+class QCheckBox;
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -45,7 +46,8 @@ class LogFormView : public QMainWindow {
   void BuildForm();
   QAction* AddAction(QMenu* menu, const char* name, const MenuItem& item, void (LogForm::*click)());
   bool KeyPressed(int box, const QKeyEvent& key);
-  void RefreshBox(int box);
+  void KeyboardCWKeyPressed(const QKeyEvent& key);
+  void RefreshBox(QLineEdit& edit, const TextBox& model);
   void Exit();
 
   // Runs an operator action on the model, then redraws. Actions raised by the
@@ -67,10 +69,12 @@ class LogFormView : public QMainWindow {
 
   QWidget* Form = nullptr;
   std::array<QLineEdit*, 2> InData{};
+  QLineEdit* KeyboardCWText = nullptr;
   QPushButton* AddButton = nullptr;
   QPushButton* CancelButton = nullptr;
   std::vector<std::pair<QLabel*, const Label*>> Labels;
   std::vector<std::pair<QAction*, const MenuItem*>> Menus;
+  std::vector<std::pair<QCheckBox*, const CheckBox*>> Checks;
 };
 
 }  // namespace tarnix

@@ -6,6 +6,7 @@
 #include <map>
 #include <ostream>
 
+#include "Options.h"
 #include "Session.h"
 #include "core/ChCoForm.h"
 #include "core/QDate.h"
@@ -24,25 +25,6 @@ void PrintRecord(std::ostream& out, const QsoRecord& r) {
 
 void PrintRecords(std::ostream& out, Context& ctx) {
   for (int n = 1; n < ctx.Log.QSOCount; ++n) PrintRecord(out, LoggedRecord(ctx.Log, n));
-}
-
-// "YYYY-MM-DD HH:MM" or "HH:MM" (keeping the date); false if malformed.
-bool ParseClock(const std::string& text, LocalDateTime& when) {
-  int y, mo, d, h, mi;
-  char tail;
-  if (std::sscanf(text.c_str(), "%d-%d-%d %d:%d%c", &y, &mo, &d, &h, &mi, &tail) == 5) {
-    if (mo < 1 || mo > 12 || d < 1 || d > 31 || h < 0 || h > 23 || mi < 0 || mi > 59) return false;
-    when = {y, mo, d, h, mi, 0};
-    return true;
-  }
-  if (std::sscanf(text.c_str(), "%d:%d%c", &h, &mi, &tail) == 2) {
-    if (h < 0 || h > 23 || mi < 0 || mi > 59) return false;
-    when.Hour = h;
-    when.Minute = mi;
-    when.Second = 0;
-    return true;
-  }
-  return false;
 }
 
 // What an operator does for one line: the first word typed into the call
@@ -82,72 +64,6 @@ bool EnterLines(Session& session, LocalDateTime now, std::istream& in, std::ostr
   return true;
 }
 
-std::string Absolute(const std::string& path) { return std::filesystem::absolute(path).lexically_normal().string(); }
-
-// The options of a new log, as the contest form offers them.
-struct NewOptions {
-  ContestChoice Choice;
-  bool HasContest = false;
-  LocalDateTime Clock = SystemLocalTime();
-};
-
-// Reads --contest, --mode, --qth, --cwo-hour and --clock; the rest of the
-// arguments, not options, are returned in positional. False with a message
-// on a usage error.
-bool ReadOptions(const Args& args, NewOptions& options, Args& positional, std::ostream& err) {
-  static const std::map<std::string, std::pair<int, int>> kQth = {
-      {"usa", {-1, 0}}, {"canada", {-1, 1}}, {"usve", {-1, 0}}, {"dx", {-1, 1}}, {"in", {0, -1}}, {"out", {1, -1}}};
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    const std::string& a = args[i];
-    if (a.rfind("--", 0) != 0) {
-      positional.push_back(a);
-      continue;
-    }
-    if (i + 1 >= args.size()) {
-      err << "tarnix-cli: " << a << " wants a value\n";
-      return false;
-    }
-    const std::string& value = args[++i];
-    ContestChoice& c = options.Choice;
-    if (a == "--contest") {
-      c.ContestIndex = static_cast<int>(Val(value));
-      options.HasContest = true;
-    } else if (a == "--mode" && (value == "cw" || value == "phone")) {
-      c.ModeButton = value == "phone" ? 0 : 1;
-    } else if (a == "--qth" && kQth.count(value)) {
-      auto [location, qth] = kQth.at(value);
-      if (location >= 0) c.LocationButton = location;
-      if (qth >= 0) c.QthButton = qth;
-    } else if (a == "--qth" && value.size() == 2 && std::string("AFASEUNAOCSA").find(value) % 2 == 0) {
-      c.QthButton = 2;
-      c.Continent = value;
-    } else if (a == "--cwo-hour" && (value == "1200" || value == "2000" || value == "400")) {
-      c.QthButton = value == "1200" ? 0 : value == "2000" ? 1 : 2;
-    } else if (a == "--clock" && ParseClock(value, options.Clock)) {
-    } else {
-      err << "tarnix-cli: bad option " << a << " " << value << "\n";
-      return false;
-    }
-  }
-  if (options.HasContest && (options.Choice.ContestIndex < 1 || options.Choice.ContestIndex > ContestCount)) {
-    err << "tarnix-cli: --contest must be 1 to 13\n";
-    return false;
-  }
-  return true;
-}
-
-// Checks the choice on a contest form of its own, so that an option the
-// form does not offer for the contest is reported rather than ignored.
-bool ChoiceOffered(const ContestChoice& choice, std::ostream& err) {
-  ContestState scratch;
-  bool cancelled = false;
-  ChCoForm form(scratch, cancelled);
-  if (MakeChoice(form, choice)) return true;
-  err << "tarnix-cli: the contest form does not offer that mode or location for contest " << choice.ContestIndex
-      << "\n";
-  return false;
-}
-
 }  // namespace
 
 void Usage(std::ostream& out) {
@@ -171,6 +87,11 @@ void Usage(std::ostream& out) {
          "      open the log, type CALL into the call box on band B (BandIndex 1..24, else the\n"
          "      log's band) and print FoundInLog, FoundOnBand, IsDupe, DupeQSO, PortableMatch\n"
          "      and the dupe line as the form shows it\n"
+         "  script FILE [--log LOG.TNX | --contest N [--mode cw|phone] [--qth ...]]\n"
+         "          [--clock \"YYYY-MM-DD HH:MM\"]\n"
+         "      drive the main form with a keystroke script, one action a line: type TEXT,\n"
+         "      key NAME (Enter, F9, Ctrl+Down, Alt+M...), answer Yes|No|Cancel|OK,\n"
+         "      clock YYYY-MM-DD HH:MM, show. Prints MSGBOX and REQUEST lines as they come\n"
          "  lookup CALL...\n"
          "      resolve each call with the program folder's cty.dat: call, country row, name,\n"
          "      CQ zone, continent, WPX prefix, NA zone, NA class, heading\n";

@@ -7,6 +7,7 @@
 #include "Commands.h"
 #include "DupeCommand.h"
 #include "LookupCommand.h"
+#include "ScriptCommand.h"
 
 int main(int argc, char** argv) {
   tarnix::cli::Args args(argv + 1, argv + argc);
@@ -21,6 +22,7 @@ int main(int argc, char** argv) {
   if (command == "enter") return tarnix::cli::Enter(args, std::cin, std::cout, std::cerr);
   if (command == "dump") return tarnix::cli::Dump(args, std::cout, std::cerr);
   if (command == "dupe") return tarnix::cli::Dupe(args, std::cout, std::cerr);
+  if (command == "script") return tarnix::cli::Script(args, std::cout, std::cerr);
   if (command == "lookup") return tarnix::cli::Lookup(args, std::cout, std::cerr);
   std::cerr << "tarnix-cli: unknown command '" << command << "'\n";
   tarnix::cli::Usage(std::cerr);

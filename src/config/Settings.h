@@ -61,6 +61,11 @@ enum DtrRole : int16_t { DtrNone = 0, DtrCW = 1, DtrPTT = 2, DtrF9 = 3, DtrDVKMi
 // How the voice keyer speaks calls and exchanges (DVKCallExchMode).
 enum DvkCallExchMode : int16_t { DvkAlwaysFast = 0, DvkAlwaysNormal = 1, DvkMixedMode = 2 };
 
+// The name the speed label shows for a DVKCallExchMode.
+inline const char* DvkCallExchModeName(int mode) {
+  return mode == DvkMixedMode ? "Mixed" : mode == DvkAlwaysNormal ? "Normal" : "Fast";
+}
+
 struct Settings {
   // [Preferences]
   std::string YourCall;

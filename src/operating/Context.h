@@ -13,6 +13,7 @@
 #include "core/Contest.h"
 #include "core/LogFile.h"
 #include "core/LogStore.h"
+#include "keying/KeyingState.h"
 #include "radio/RadioState.h"
 #include "rules/ContestCounters.h"
 #include "rules/Countries.h"
@@ -32,6 +33,7 @@ struct Context {
   ContestCounters Counters;
   PortableTable Portables;     // the log's calls with "/", for the dupe check
   RadioState Radio;
+  KeyingState Keying;
 
   std::string LogFileName;     // full path of the open log
   UserInfoClipboard UserClipboard;  // the profile form's copy, for the whole run

@@ -247,6 +247,7 @@ void LogForm::AfterHeader(const std::string* fileBytes) {
   Ctx.Radio.RadioBand1 = Ctx.Radio.RadioBand2 = s.BandIndex;
   Ctx.Radio.ActiveRadio = 1;
   SetDefaultBands(s);
+  if (!Ctx.ReloadFlag) Ctx.Keying.CWSpeed = 28;
   Form_Load();
   if (Ctx.ReloadFlag) {
     LastQSOLabel.Caption = LastLine;

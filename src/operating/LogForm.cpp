@@ -43,6 +43,10 @@ void LogForm::Form_Load() {
                          &CallMatchLabel1, &CallMatchLabel2, &OldCallMatchLabel})
       label->Visible = false;
     for (Label& cell : PrevQSO) cell.Visible = false;
+    for (Label* label : {&lblCWPC, &lblSpeedCW, &lblCWWK, &lblSpeedWK, &DVKSpeedLabel, &KeyboardCWLabel})
+      label->Visible = false;
+    for (CheckBox* box : {&CheckCall, &CheckExchange, &CheckGreeting, &CheckThanks}) box->Visible = false;
+    KeyboardCWText.Visible = false;
     BackColor = ColourLightGrey;
     FocusedBox = NoBox;
     return;
@@ -57,6 +61,9 @@ void LogForm::Form_Load() {
   LabelR2Freq.Caption = "R2";
   lblExchange.Caption = ExchangeCaptionFor(Ctx.Contest);
   SetMenusForContest();
+  lblCWPC.Visible = true;
+  lblCWPC.ForeColor = lblSpeedCW.ForeColor = ColourBlue;
+  ArrangeForMode();
   RedrawQSONrLabel();
   RedrawScore();
 }

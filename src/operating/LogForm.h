@@ -7,6 +7,12 @@
 // (ProcessEntry), the focus steps of the boxes, the File and Edit commands.
 // The Qt window only draws these members and forwards events.
 //
+// The keyboard (EntryKeys.cpp, EntryBands.cpp, EntryTextCommands.cpp): every
+// key of the entry boxes comes through InData_KeyDown and InData_KeyPress;
+// words typed into the call box can be commands (ParseTextCommand). Keys can
+// arrive nested inside a blocking send; they test the keying state's
+// SendingCW before touching the speed.
+//
 // Runs on the user-interface thread. ProcessEntry may be re-entered only
 // through the event pump of a blocking send; it runs to its end before the
 // next key. A refused entry leaves the text in the boxes.
@@ -20,6 +26,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/QsoRecord.h"
 #include "operating/Context.h"
@@ -34,6 +41,8 @@ namespace tarnix {
 inline constexpr int CallBox = 0;
 inline constexpr int ExchangeBox = 1;
 inline constexpr int NoBox = -1;
+// FocusedBox while the keyboard CW box of Caps Lock has the focus.
+inline constexpr int KeyboardCWFocus = 2;
 
 class LogForm {
  public:
@@ -54,6 +63,13 @@ class LogForm {
   Label CallMatchLabel1, CallMatchLabel2, OldCallMatchLabel;
   Label ActiveRadioLabel, LabelR1Freq, LabelR2Freq;
   Label TimeGMTLabel, TimeLocalLabel;
+  // The sending controls beside the boxes, arranged by the band's mode: the
+  // CW speed (and the Winkeyer's) on CW, the voice keyer's on phone.
+  Label lblCWPC, lblSpeedCW, lblCWWK{"WK Pot:"}, lblSpeedWK, DVKSpeedLabel;
+  CheckBox CheckCall{"Call"}, CheckExchange{"Exchange"}, CheckGreeting{"Greeting"}, CheckThanks{"Thanks"};
+  // The keyboard CW box that Caps Lock opens in place of the title line.
+  Label KeyboardCWLabel{"Keyboard CW:", false};
+  TextBox KeyboardCWText{"", 0, 0, false};
   Button AddButton{"Add"};
   Button CancelButton{"Cancel"};
 
@@ -95,6 +111,21 @@ class LogForm {
   std::string LastDupeCheckCall;  // the call of the last dupe check
   bool DupeCheckDone = false;     // LastDupeCheckCall is valid
 
+  // ---- Keyboard state (EntryKeys.cpp, EntryTextCommands.cpp) ----
+  bool BackslashPressed = false, BracketPressed = false;  // set just before key-down
+  std::array<std::string, 6> CallStack;  // the calls of Alt-M, rows 1..5, newest first
+  int16_t CallStackPos = 0;              // the row last recalled, 1..5
+  int KeyboardCWBox = CallBox;           // where Caps Lock returns to
+  int KeyboardCWCaret = 0;
+  int16_t StoRadio = 0;                  // the STO memory; radio 0: nothing stored
+  float StoFreq = 0;
+  int16_t StoBand = 0;
+  // What the form asked of the senders, the keyer and the radios, one line
+  // each, oldest first ("SendMessageKey 5", "SendCW K3ZZZ", "SetRadioFrequency
+  // 1 14025"), the last hundred: those subsystems take over the requests as
+  // they are written.
+  std::vector<std::string> Requests;
+
   // ---- Exchange parser state (EntryParsers.cpp) ----
   // The received fields of the last parse, read by the logging step. A
   // refused parse leaves the fields it did not reach as they were.
@@ -119,10 +150,26 @@ class LogForm {
   void Form_Load();
   // Moves the focus, running the lost- and got-focus steps of the boxes.
   void SetFocus(int box);
-  // Key-down in an entry box; returns true when the key was used up.
+  // Key-down in an entry box; returns true when the key was used up, false
+  // when the box is to do its own editing with it (arrows, Home, Ctrl-A...).
   bool InData_KeyDown(int box, int keyCode, int shift);
   // A typed character: upper-cased, or discarded, then put at the caret.
   void InData_KeyPress(int box, char keyAscii);
+  // A key as the keyboard gives it to the focused box, for front ends without
+  // a toolkit of their own: a character's key-down (Space, the apostrophe)
+  // and then, unless that used it up, its key-press; a key by code to
+  // key-down. PressKey returns false when the box is to do its own editing.
+  void TypeCharacter(char ch);
+  bool PressKey(int keyCode, int shift);
+  // Keys of the keyboard CW box: Caps Lock closes it, each character is sent
+  // at once ("+" and "-" change the speed).
+  bool KeyboardCWText_KeyDown(int keyCode);
+  void KeyboardCWText_KeyPress(char keyAscii);
+  // Makes radio target the active one (0: the other radio), carrying the band
+  // of each radio across.
+  void SwapActiveRadio(int target);
+  // Shows the CW or the voice controls for the band's mode.
+  void ArrangeForMode();
   // Text typed or edited in a box by the view's own editing keys.
   void InData_Change(int box, const std::string& text, int selStart);
   // The caret or selection moved in a box by the mouse or the view's own
@@ -208,10 +255,47 @@ class LogForm {
   void SetMenusForContest();
   bool HasLog() const;
 
-  // Hooks for rules still to come (EntryHooks.cpp).
+  // Keyboard (EntryKeys.cpp).
+  int MappedKey(int keyCode, int shift);
+  bool FunctionKey(int box, int keyCode, int shift);
+  bool CommandKey(int keyCode, int shift);
+  bool PlainKey(int box, int keyCode, int shift);
+  void InsertKey(int shift);
+  void SpeedOrVoiceModeKey(char ch);
+  void StepDVKCallExchMode();
+  void SetCWSpeed(int delta);
+  void Wipe();
+  void MemoriseCall();
+  void RecallCall(int row);
+  void OpenKeyboardCW(int box);
+  void StepWinkeySpeedMode();
+
+  // Bands, modes and radios (EntryBands.cpp).
+  void ChangeBand(int step);
+  void ChangeMode();
+  void TakeBandOnActiveRadio();
+  void ColourSpeedLabels();
+
+  // Text commands (EntryTextCommands.cpp).
   int ParseTextCommand();
   void RunTextCommand(int command);
+  void ClearTextCommand();
+  void RepeatLastQso();
+  void StoreRadio();
+  void RecallRadio();
+
+  // Hooks for rules still to come (EntryHooks.cpp).
+  void NoteRequest(std::string request);
   void SendMessageKey(int message, bool dual);
+  void SendCW(const std::string& text);
+  void SendCallAndExchange(const std::string& call);
+  void SetRadioFrequency(int radio, bool changeBand, float kHz);
+  void SetRadioMode(int radio, int bandIndex);
+  void ReadRadioMode(int radio);
+  void SwapRadioFrequencies();
+  void SendPowerCommand(const std::string& parameter);
+  void SetF9Line(bool on);
+  void SetWinkeySpeedSource();
   void DupeCheck(const std::string& call);
   void ShowDupe();
   void RunExchangeParser();

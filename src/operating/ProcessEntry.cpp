@@ -1,7 +1,5 @@
 // The Enter key: from the two entry boxes to a logged QSO.
 
-#include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <stdexcept>
 
@@ -384,46 +382,6 @@ void LogForm::InData_LostFocus(int box) {
     return;
   }
   CallMatchLabel1.Visible = CallMatchLabel2.Visible = OldCallMatchLabel.Visible = false;
-}
-
-bool LogForm::InData_KeyDown(int box, int keyCode, int shift) {
-  if (!HasLog()) return false;
-  ApostropheLogged = false;
-  switch (keyCode) {
-    case KeyEnter:
-      ProcessEntry(box, shift);
-      return true;
-    case KeySpace: {
-      int c = Ctx.Contest.ContestIndex;
-      if (OneOf(c, {ArrlDx, Wpx, AllAsian, Ten, Neqp})) {
-        SetFocus(box == CallBox ? ExchangeBox : CallBox);
-        return true;
-      }
-      if (box == CallBox) {
-        SetFocus(ExchangeBox);
-        return true;
-      }
-      return false;  // an ordinary blank in a multi-field exchange
-    }
-    case KeyInsert:
-      return SendDupeMessage();
-    default:
-      return false;
-  }
-}
-
-void LogForm::InData_KeyPress(int box, char keyAscii) {
-  if (!HasLog()) return;
-  char ch = static_cast<char>(std::toupper(static_cast<unsigned char>(keyAscii)));
-  if (ch == '"' || ch == '\'') return;
-  TextBox& b = InData[static_cast<std::size_t>(box)];
-  int start = std::min(b.SelStart, static_cast<int>(b.Text.size()));
-  int length = std::min(b.SelLength, static_cast<int>(b.Text.size()) - start);
-  b.Text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(length), 1, ch);
-  b.SelStart = start + 1;
-  b.SelLength = 0;
-  if (box == CallBox && (std::isalnum(static_cast<unsigned char>(ch)) || ch == '/')) ShowCallMatches(b.Text);
-  if (box == ExchangeBox) ShowNeededOn();
 }
 
 // Backspace, Delete and pastes come here from the view.

@@ -12,6 +12,7 @@ namespace tarnix {
 // 16711680 pure blue.
 inline constexpr int32_t ColourBlack = 0;
 inline constexpr int32_t ColourRed = 255;
+inline constexpr int32_t ColourDarkRed = 192;
 inline constexpr int32_t ColourBlue = 16711680;
 inline constexpr int32_t ColourWhite = 16777215;
 inline constexpr int32_t ColourLightGrey = 14737632;

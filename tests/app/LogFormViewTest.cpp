@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -200,6 +203,92 @@ TEST_F(LogFormViewTest, AddAndCancelButtonsActOnTheEntry) {
   ASSERT_EQ(ctx->Log.QSOCount, 2);
   EXPECT_EQ(Qso(1).QCall.Trimmed(), "VE3EJ");
   EXPECT_EQ(QApplication::focusWidget(), &Box(CallBox));  // the button took no focus
+}
+
+TEST_F(LogFormViewTest, KeyboardCommandsThroughKeyEvents) {
+  ASSERT_TRUE(active);
+  ActionNamed("mnuFileNewLog").trigger();
+  ASSERT_EQ(ctx->Contest.ContestIndex, Generic);
+  ctx->Config.Key1IsMapped = true;
+  ctx->Config.Key1Mapping = "rightbracket";
+  ctx->Config.CWSpeedIncrement = "2";
+
+  // Alt-M keeps a call and empties the boxes; Ctrl-X empties them without
+  // the box's own cut.
+  QTest::keyClicks(&Box(CallBox), "w1aw");
+  QTest::keyClick(&Box(CallBox), Qt::Key_M, Qt::AltModifier);
+  EXPECT_EQ(Box(CallBox).text(), QString());
+  EXPECT_EQ(model.CallStack[1], "W1AW");
+  QTest::keyClicks(&Box(CallBox), "k3zzz");
+  QTest::keyClick(&Box(CallBox), Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(Box(CallBox).text(), QString());
+
+  // The band ring and the mode, drawn in the window.
+  QTest::keyClick(&Box(CallBox), Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_EQ(LabelNamed("QSONrLabel").text(), QStringLiteral("QSO Nr  1    (30m CW)"));
+  QTest::keyClick(&Box(CallBox), Qt::Key_Up, Qt::ControlModifier);
+  QTest::keyClick(&Box(CallBox), Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(LabelNamed("QSONrLabel").text(), QStringLiteral("QSO Nr  1    (20m SSB)"));
+  EXPECT_EQ(LabelNamed("lblCWPC").text(), QStringLiteral("DVK:"));
+  EXPECT_TRUE(Child<QCheckBox>(QStringLiteral("CheckCall")).isVisible());
+  QTest::keyClick(&Box(CallBox), Qt::Key_Left, Qt::ControlModifier);
+  EXPECT_EQ(LabelNamed("lblCWPC").text(), QStringLiteral("CW-PC:"));
+  EXPECT_FALSE(Child<QCheckBox>(QStringLiteral("CheckCall")).isVisible());
+
+  // "+" and Page Down on CW change the speed; the box gets nothing.
+  ctx->Config.CWActivated = true;
+  QTest::keyClick(&Box(CallBox), '+');
+  QTest::keyClick(&Box(CallBox), Qt::Key_PageDown);
+  QTest::keyClick(&Box(CallBox), Qt::Key_PageDown);
+  EXPECT_EQ(LabelNamed("lblSpeedCW").text(), QStringLiteral("26"));
+  EXPECT_EQ(Box(CallBox).text(), QString());
+
+  // Alt-Left brings the call back; "]" mapped to Insert sends it with the
+  // exchange and moves on; F1 and the keyboard CW box of Caps Lock.
+  QTest::keyClick(&Box(CallBox), Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(Box(CallBox).text(), QStringLiteral("W1AW"));
+  QTest::keyClick(&Box(CallBox), ']');
+  EXPECT_EQ(QApplication::focusWidget(), &Box(ExchangeBox));
+  EXPECT_EQ(Box(CallBox).text(), QStringLiteral("W1AW"));
+  QTest::keyClick(&Box(ExchangeBox), Qt::Key_F1);
+  QTest::keyClick(&Box(ExchangeBox), Qt::Key_CapsLock);
+  QLineEdit& keyboardCW = Child<QLineEdit>(QStringLiteral("KeyboardCWText"));
+  EXPECT_TRUE(keyboardCW.isVisible());
+  EXPECT_FALSE(LabelNamed("FileIDLabel").isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), &keyboardCW);
+  QTest::keyClicks(&keyboardCW, "tu");
+  EXPECT_EQ(keyboardCW.text(), QStringLiteral("TU"));
+  QTest::keyClick(&keyboardCW, Qt::Key_CapsLock);
+  EXPECT_FALSE(keyboardCW.isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), &Box(ExchangeBox));
+  EXPECT_EQ(model.Requests,
+            (std::vector<std::string>{"SendMessageRow 10", "SendMessageKey 1", "SendCW T", "SendCW U"}));
+
+  // F9 makes radio 2 active: the label turns red.
+  QTest::keyClick(&Box(ExchangeBox), Qt::Key_F9);
+  EXPECT_EQ(LabelNamed("ActiveRadioLabel").text(), QStringLiteral("Radio2"));
+  EXPECT_EQ(LabelNamed("ActiveRadioLabel").palette().color(QPalette::WindowText), QColor(255, 0, 0));
+
+  // A key pressed while a message box pumps events, as a blocking send will:
+  // the "+" is handled inside the Enter that asked, and the QSO is logged.
+  QTest::keyClick(&Box(ExchangeBox), Qt::Key_Space);
+  QTest::keyClicks(&Box(ExchangeBox), "599 ma");
+  QTest::keyClick(&Box(ExchangeBox), Qt::Key_Return);
+  ASSERT_EQ(ctx->Log.QSOCount, 2);
+  EXPECT_EQ(Qso(1).QCall.Trimmed() + "|" + Qso(1).QRcvText.Trimmed() + "|" + Qso(1).QRadio.Trimmed(), "W1AW|599 MA|2");
+  QTest::keyClicks(&Box(CallBox), "va3abcdefgh");
+  desk.Boxes.OnShow = [this](const MessageBoxRequest&) {
+    QCoreApplication::postEvent(&Box(CallBox), new QKeyEvent(QEvent::KeyPress, Qt::Key_Plus, Qt::NoModifier, "+"));
+    QCoreApplication::processEvents();
+  };
+  QTest::keyClick(&Box(CallBox), Qt::Key_Return);
+  desk.Boxes.OnShow = nullptr;
+  ASSERT_EQ(desk.Boxes.Shown.size(), 1u);
+  EXPECT_EQ(desk.Boxes.Shown[0].Title, "Entry Too Long");
+  EXPECT_EQ(LabelNamed("lblSpeedCW").text(), QStringLiteral("28"));
+  ASSERT_EQ(ctx->Log.QSOCount, 3);
+  EXPECT_EQ(Qso(2).QCall.Trimmed(), "VA3ABCDEFG");
+  EXPECT_EQ(Box(CallBox).text(), QString());
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "core/ChCoForm.h"
 #include "core/Text.h"
 #include "operating/LogForm.h"
+#include "operating/StartedFormTest.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
 #include "rules/DupeCheck.h"
@@ -18,15 +19,8 @@
 namespace tarnix {
 namespace {
 
-class DupeEntryTest : public ::testing::Test {
+class DupeEntryTest : public StartedFormTest {
  protected:
-  TempFolder home;
-  std::unique_ptr<Context> ctx = MakeContext(home.Path);
-  ScriptedPlatform desk;
-  // A real start: the parsers take their multiplier tables from the data file.
-  bool started = StartProgram(*ctx, desk.View);
-  LogForm form{*ctx, desk.View};
-
   // A new log over the one open, which is not kept.
   void NewLog(int contest, bool phone = false) {
     ASSERT_TRUE(started);
