@@ -1,7 +1,9 @@
 #include "Commands.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <iterator>
 #include <istream>
 #include <map>
 #include <ostream>
@@ -45,8 +47,10 @@ void EnterLine(LogForm& form, const std::string& line) {
   form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
 }
 
-// Reads QSO lines and clock lines from in; false on a bad clock line.
-bool EnterLines(Session& session, LocalDateTime now, std::istream& in, std::ostream& err) {
+// Reads QSO lines and clock lines from in; false on a bad clock line. With
+// progress, each QSO line is acknowledged there, flushed, once its Enter has
+// returned, so that a process watching from outside knows what was logged.
+bool EnterLines(Session& session, LocalDateTime now, std::istream& in, std::ostream& err, std::ostream* progress) {
   std::string line;
   while (std::getline(in, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
@@ -60,6 +64,7 @@ bool EnterLines(Session& session, LocalDateTime now, std::istream& in, std::ostr
       continue;
     }
     EnterLine(session.Form, line);
+    if (progress) *progress << "ENTERED " << session.Ctx->Log.QSOCount - 1 << std::endl;
   }
   return true;
 }
@@ -74,12 +79,13 @@ void Usage(std::ostream& out) {
          "  new LOG.TNX --contest N [--mode cw|phone]\n"
          "          [--qth usa|canada|AF|AS|EU|NA|OC|SA|usve|dx|in|out] [--cwo-hour 1200|2000|400]\n"
          "      create a log as File > New Log and Save As do\n"
-         "  enter LOG.TNX [--clock \"YYYY-MM-DD HH:MM\"]\n"
-         "  enter --contest N [--mode cw|phone] [--qth ...] [--clock \"YYYY-MM-DD HH:MM\"]\n"
+         "  enter LOG.TNX [--clock \"YYYY-MM-DD HH:MM\"] [--progress]\n"
+         "  enter --contest N [--mode cw|phone] [--qth ...] [--clock \"YYYY-MM-DD HH:MM\"] [--progress]\n"
          "      read QSOs from stdin, one a line: CALL [EXCHANGE]; \"@YYYY-MM-DD HH:MM\" or\n"
          "      \"@HH:MM\" sets the clock. With LOG.TNX each QSO is appended to that log;\n"
          "      without, a throw-away log is used. Prints message boxes as\n"
-         "      MSGBOX title|text, then every record of the log\n"
+         "      MSGBOX title|text, then every record of the log. --progress prints\n"
+         "      ENTERED n (the QSOs the log then holds) as soon as each line's Enter returns\n"
          "  dump LOG.TNX\n"
          "      open the log as File > Open does and print HEADER, one line per QSO, TOTAL and\n"
          "      a BAND line for each BandIndex with QSOs\n"
@@ -122,7 +128,10 @@ int New(const Args& args, std::ostream& out, std::ostream& err) {
 int Enter(const Args& args, std::istream& in, std::ostream& out, std::ostream& err) {
   NewOptions options;
   Args positional;
-  if (!ReadOptions(args, options, positional, err)) return 2;
+  Args rest;
+  std::remove_copy(args.begin(), args.end(), std::back_inserter(rest), std::string("--progress"));
+  const bool progress = rest.size() < args.size();
+  if (!ReadOptions(rest, options, positional, err)) return 2;
   if (positional.size() > 1 || positional.empty() == !options.HasContest) {
     err << "tarnix-cli: enter wants either LOG.TNX or --contest N\n";
     return 2;
@@ -142,7 +151,7 @@ int Enter(const Args& args, std::istream& in, std::ostream& out, std::ostream& e
   } else if (!session.Open(Absolute(positional[0]))) {
     return 1;
   }
-  if (!EnterLines(session, options.Clock, in, err)) return 2;
+  if (!EnterLines(session, options.Clock, in, err, progress ? &out : nullptr)) return 2;
   PrintRecords(out, *session.Ctx);
   return 0;
 }

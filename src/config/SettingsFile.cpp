@@ -377,12 +377,33 @@ std::optional<Section> FindHeader(std::string_view line, std::string& error) {
   return std::nullopt;
 }
 
+// Whether a window field is a whole number as the writer prints one.
+bool IsWrittenNumber(std::string_view field) {
+  int value = 0;
+  auto [end, ec] = std::from_chars(field.data(), field.data() + field.size(), value);
+  return !field.empty() && ec == std::errc() && end == field.data() + field.size();
+}
+
 // A window line: name, state, Top, Left, Height, Width, each up to the next
-// single blank; the width takes the rest.
+// single blank; the width takes the rest. The writer trims the name and the
+// state, and the reader the line, so a row written without a name comes back
+// as "STATE T L H W" and one without either as "T L H W". Such a line, five
+// or four fields whose Top is a number, is read from the right, the missing
+// name (and state) left blank; read from the left, the numbers would move
+// into the name. Any other line, a short one among them, is read from the
+// left.
 bool ParseWindowRow(std::string_view line, WindowRow& row, std::string& error) {
+  const std::size_t blanks = static_cast<std::size_t>(std::count(line.begin(), line.end(), ' '));
+  std::size_t first = 0;  // the field the line starts with
+  if (blanks == 3 || blanks == 4) {
+    const std::size_t topField = blanks - 3;  // 0 when both name and state are missing, 1 when the name is
+    std::string_view top = line;
+    for (std::size_t i = 0; i < topField; ++i) top.remove_prefix(top.find(' ') + 1);
+    if (IsWrittenNumber(top.substr(0, top.find(' ')))) first = 5 - blanks;
+  }
   std::array<std::string_view, 6> fields;
   std::size_t start = 0;
-  for (std::size_t i = 0; i < fields.size() && start <= line.size(); ++i) {
+  for (std::size_t i = first; i < fields.size() && start <= line.size(); ++i) {
     std::size_t blank = i + 1 < fields.size() ? line.find(' ', start) : std::string_view::npos;
     fields[i] = line.substr(start, blank == std::string_view::npos ? std::string_view::npos : blank - start);
     start = blank == std::string_view::npos ? line.size() + 1 : blank + 1;

@@ -380,9 +380,39 @@ bool LogForm::WriteWithRetry(const std::function<FileError()>& write) {
   }
 }
 
+// Writes QSO n at its place in the log file. A log file that is gone, or
+// shorter than the header and the n - 1 QSOs before (deleted, cut short, or
+// its header torn by a full disk whose error was ignored), is written again
+// whole from memory, QSO n included, and the operator is told: written alone,
+// the record would land behind a gap of zero bytes, with the header and the
+// earlier QSOs lost from the disk. (A log of an old shape keeps its records
+// in the arrays of that shape, which memory cannot give back as a file.)
 FileError LogForm::WriteLogRecord(int n) {
+  const bool wide = Ctx.Log.RecordLength == static_cast<int16_t>(QsoRecordSize);
+  const uint64_t before = n == 1 ? LogHeaderSize : static_cast<uint64_t>(n) * QsoRecordSize;
+  std::optional<uint64_t> size = Desk.Disk.Size(Ctx.LogFileName);
+  if (wide && (!size || *size < before)) {
+    if (FileError error = Desk.Disk.Replace(Ctx.LogFileName, LogFileBytes(n))) return error;
+    Tell("The log file " + Ctx.LogFileName + " was missing or cut short. It has been written again from memory, with " +
+             std::to_string(n) + (n == 1 ? " QSO." : " QSOs."),
+         "Log File Rewritten", MsgIcon::Exclamation);
+    return std::nullopt;
+  }
   auto bytes = EncodeRecord(Ctx.Log.LogRecords.At(n));
   return Desk.Disk.WriteAt(Ctx.LogFileName, static_cast<uint64_t>(n) * QsoRecordSize, bytes);
+}
+
+// The log file as memory holds it: the header and QSOs 1 to lastQso, each at
+// the record length of a new log.
+std::string LogForm::LogFileBytes(int lastQso) const {
+  std::string bytes(static_cast<std::size_t>(lastQso + 1) * QsoRecordSize, '\0');
+  auto header = EncodeHeader(Ctx.SavedHeader);
+  std::copy(header.begin(), header.end(), bytes.begin());
+  for (int n = 1; n <= lastQso; ++n) {
+    auto record = EncodeRecord(Ctx.Log.LogRecords.At(n));
+    std::copy(record.begin(), record.end(), bytes.begin() + static_cast<std::ptrdiff_t>(n * QsoRecordSize));
+  }
+  return bytes;
 }
 
 // The copy Kill All leaves in the program folder: the header and, at the

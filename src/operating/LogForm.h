@@ -249,6 +249,7 @@ class LogForm {
   MsgAnswer FileErrorRoutine(const std::string& error);
   bool WriteWithRetry(const std::function<FileError()>& write);
   FileError WriteLogRecord(int n);
+  std::string LogFileBytes(int lastQso) const;
   bool WriteKilledFile();
   void RotateUnsavedLogs();
   bool EmptyLogFile();

@@ -88,13 +88,7 @@ void LogForm::mnuFileBackup_Click() {
   const std::string& folder = Ctx.Config.BackUpDrive;
   if (Ctx.Log.LogState != LogStateKind::Named || Trim(folder) == "[none]" || Trim(folder).empty()) return;
   std::string target = (std::filesystem::path(Trim(folder)) / std::filesystem::path(Ctx.LogFileName).filename()).string();
-  std::string bytes(static_cast<std::size_t>(Ctx.Log.QSOCount) * QsoRecordSize, '\0');
-  auto header = EncodeHeader(Ctx.SavedHeader);
-  std::copy(header.begin(), header.end(), bytes.begin());
-  for (int n = 1; n < Ctx.Log.QSOCount; ++n) {
-    auto record = EncodeRecord(Ctx.Log.LogRecords.At(n));
-    std::copy(record.begin(), record.end(), bytes.begin() + static_cast<std::ptrdiff_t>(n * QsoRecordSize));
-  }
+  std::string bytes = LogFileBytes(Ctx.Log.QSOCount - 1);
   WriteWithRetry([&]() -> FileError {
     if (Desk.Disk.Exists(target))
       if (FileError error = Desk.Disk.Remove(target)) return error;

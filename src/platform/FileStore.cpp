@@ -42,6 +42,14 @@ bool DiskFileStore::Exists(const std::string& path) {
   return fs::is_regular_file(path, ignored);
 }
 
+std::optional<uint64_t> DiskFileStore::Size(const std::string& path) {
+  std::error_code error;
+  if (!fs::is_regular_file(path, error)) return std::nullopt;
+  uint64_t size = fs::file_size(path, error);
+  if (error) return std::nullopt;
+  return size;
+}
+
 FileError DiskFileStore::ReadAll(const std::string& path, std::string& bytes) {
   errno = 0;
   std::ifstream in(path, std::ios::binary);

@@ -20,6 +20,8 @@ class FileStore {
  public:
   virtual ~FileStore() = default;
   virtual bool Exists(const std::string& path) = 0;
+  // The length of the file in bytes; nothing when there is no such file.
+  virtual std::optional<uint64_t> Size(const std::string& path) = 0;
   virtual FileError ReadAll(const std::string& path, std::string& bytes) = 0;
   // Opens the file (creating it if missing), writes the bytes at the offset,
   // and closes it. A gap before the offset reads as zero bytes.
@@ -35,6 +37,7 @@ class FileStore {
 class DiskFileStore : public FileStore {
  public:
   bool Exists(const std::string& path) override;
+  std::optional<uint64_t> Size(const std::string& path) override;
   FileError ReadAll(const std::string& path, std::string& bytes) override;
   FileError WriteAt(const std::string& path, uint64_t offset, std::span<const char> bytes) override;
   FileError Replace(const std::string& path, std::span<const char> bytes) override;

@@ -121,13 +121,15 @@ bool FaultFileStore::NextWriteFails() {
 }
 
 FileError FaultFileStore::WriteAt(const std::string& path, uint64_t offset, std::span<const char> bytes) {
-  if (NextWriteFails()) return FailText;
-  return DiskFileStore::WriteAt(path, offset, bytes);
+  if (!NextWriteFails()) return DiskFileStore::WriteAt(path, offset, bytes);
+  if (TearFailedWrites) DiskFileStore::WriteAt(path, offset, bytes.first(bytes.size() / 2));
+  return FailText;
 }
 
 FileError FaultFileStore::Replace(const std::string& path, std::span<const char> bytes) {
-  if (NextWriteFails()) return FailText;
-  return DiskFileStore::Replace(path, bytes);
+  if (!NextWriteFails()) return DiskFileStore::Replace(path, bytes);
+  if (TearFailedWrites) DiskFileStore::Replace(path, bytes.first(bytes.size() / 2));
+  return FailText;
 }
 
 }  // namespace tarnix

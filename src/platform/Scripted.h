@@ -82,7 +82,9 @@ class ScriptedEventPump : public EventPump {
 };
 
 // The disk, with faults on demand: a write can be made to fail once, from
-// the Nth write on, or always, as a full or read-only disk does.
+// the Nth write on, or always, as a full or read-only disk does; a failing
+// write can leave the first half of its bytes behind, as a disk that fills
+// in the middle of a write does.
 class FaultFileStore : public DiskFileStore {
  public:
   FileError WriteAt(const std::string& path, uint64_t offset, std::span<const char> bytes) override;
@@ -91,6 +93,7 @@ class FaultFileStore : public DiskFileStore {
   int Writes = 0;          // WriteAt and Replace calls so far
   int FailFromWrite = 0;   // 1-based: this write and all later ones fail; 0 never
   int FailOnlyWrite = 0;   // 1-based: only this write fails; 0 never
+  bool TearFailedWrites = false;
   std::string FailText = "Can't write: No space left on device";
 
  private:

@@ -160,6 +160,34 @@ TEST(SettingsFile, PositionalSectionsTakeRowsByPlace) {
             std::string::npos);
 }
 
+// A row without a name, or without name and state, is written with its
+// blanks in front, which the reader trims away: the numbers must stay
+// numbers when it is read back. A short line whose Top is a word is still
+// read from the left.
+TEST(SettingsFile, WindowRowsWithoutNameReadBackAsWritten) {
+  Settings s;
+  s.WindowInfo[2][1] = {"", "", 10, 20, 30, 40};
+  s.WindowInfo[2][2] = {"", "MIN", -5, 6, 7, 8};
+  s.WindowInfo[2][3] = {"", "7", 1, 2, 3, 4};
+  s.WindowInfo[2][4] = {"AUDIO", "", 9, 10, 11, 12};
+  std::string written = SettingsText(s);
+  EXPECT_NE(written.find(Lines({"[Window Information - 02]", "  20 10 30 40", " MIN 6 -5 7 8", " 7 2 1 3 4",
+                                "AUDIO  10 9 11 12"})),
+            std::string::npos);
+  Settings again;
+  ASSERT_TRUE(Parse(written, again).Ok);
+  for (int row = 1; row <= 4; ++row) EXPECT_EQ(again.WindowInfo[2][row], s.WindowInfo[2][row]) << row;
+
+  Settings shortRows;
+  ASSERT_TRUE(Parse(Lines({"[Window Information - 05]", "LOGFORM OPEN 100 200 3000", "VIEWMULT OPEN 5 6",
+                           "1 2 3 4 5"}),
+                    shortRows)
+                  .Ok);
+  EXPECT_EQ(shortRows.WindowInfo[5][1], (WindowRow{"LOGFORM", "OPEN", 200, 100, 3000, 0}));
+  EXPECT_EQ(shortRows.WindowInfo[5][2], (WindowRow{"VIEWMULT", "OPEN", 6, 5, 0, 0}));
+  EXPECT_EQ(shortRows.WindowInfo[5][3], (WindowRow{"", "1", 3, 2, 4, 5}));
+}
+
 TEST(SettingsFile, RadioModelRowsAdvanceOnRtsHigh) {
   std::vector<std::string> lines = {"[Radio User Settings]"};
   for (int g = 1; g <= 15; ++g) {

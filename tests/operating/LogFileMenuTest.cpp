@@ -10,18 +10,10 @@
 #include "core/LogFile.h"
 #include "operating/LogForm.h"
 #include "platform/Scripted.h"
+#include "TestFiles.h"
 
 namespace tarnix {
 namespace {
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void WriteFile(const std::string& path, const std::string& bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string HeaderOf(const std::string& contest5, char qth, int16_t wide) {
   LogHeader h;

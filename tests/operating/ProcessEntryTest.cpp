@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -150,6 +151,7 @@ TEST_F(ProcessEntryTest, AllAsianAgeMustBeZeroToNinetyNine) {
 TEST_F(ProcessEntryTest, TheLogHoldsEightThousandQsos) {
   NewLog(Generic);
   ctx->Log.QSOCount = 8000;
+  std::filesystem::resize_file(ctx->LogFileName, 8000 * QsoRecordSize);  // the file of 7999 QSOs
   Enter("K3ZZZ", "");
   EXPECT_TRUE(desk.Boxes.Shown.empty());
   EXPECT_EQ(ctx->Log.QSOCount, 8001);

@@ -16,16 +16,12 @@
 #include "operating/LogForm.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
+#include "TestFiles.h"
 
 namespace tarnix {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 TEST(Startup, AMissingSettingsFileEndsTheStart) {
   TempFolder home, emptyData;

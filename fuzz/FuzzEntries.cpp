@@ -1,0 +1,356 @@
+#include "FuzzEntries.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <set>
+
+#include "config/CountrySeed.h"
+#include "config/SettingsFile.h"
+#include "config/StartupData.h"
+#include "core/ChCoForm.h"
+#include "core/Text.h"
+#include "operating/LogForm.h"
+#include "operating/Startup.h"
+#include "platform/Scripted.h"
+#include "rules/Countries.h"
+#include "rules/MultiplierTables.h"
+#include "rules/Parsers.h"
+
+namespace tarnix::fuzz {
+namespace {
+
+// The clock of every run, so that a run depends on its input alone.
+const LocalDateTime kClock{2026, 11, 22, 14, 2, 0};
+
+// One started program for all runs: the program folder is seeded and read
+// once, as a start-up does, and each run begins from a copy of the state the
+// start left. Starting anew for each input would cost more than the run.
+class StartedProgram {
+ public:
+  StartedProgram() : Started(MakeContext(Home.Path)), Work(MakeContext(Home.Path)) {
+    ScriptedPlatform desk;
+    if (!StartProgram(*Started, desk.View)) {
+      for (const auto& box : desk.Boxes.Shown) std::fprintf(stderr, "%s\n", box.Text.c_str());
+      std::fprintf(stderr, "fuzz: the program does not start in %s\n", Home.Path.c_str());
+      std::abort();
+    }
+    *Work = *Started;
+  }
+
+  const std::string& Folder() const { return Home.Path; }
+
+  // The state as start-up left it. What a run may change is put back; the
+  // country and data tables are not, being large: the data file's lists are
+  // only read, and a lookup changes nothing of the country tables but the
+  // zone of the last lookup, which every lookup sets, and the heading cache,
+  // which holds what the station's fixed position gives anyway.
+  Context& Fresh() {
+    Context& w = *Work;
+    const Context& s = *Started;
+    w.Config = s.Config;
+    w.Contest = s.Contest;
+    w.Tables = s.Tables;
+    w.Radio = s.Radio;
+    w.UserClipboard = s.UserClipboard;
+    w.LogFileName.clear();
+    w.SavedHeader = s.SavedHeader;
+    w.DialogCancelled = w.ReloadFlag = false;
+    w.Log.LogState = LogStateKind::None;
+    ResetLog(w.Log);
+    ResetCounters(w.Counters);
+    ResetPortables(w.Portables);
+    return w;
+  }
+
+ private:
+  TempFolder Home;
+  std::unique_ptr<Context> Started;
+  std::unique_ptr<Context> Work;
+};
+
+StartedProgram& Program() {
+  static StartedProgram program;
+  return program;
+}
+
+std::string Titles(const ScriptedPlatform& desk, std::size_t from = 0) {
+  std::string titles;
+  for (std::size_t i = from; i < desk.Boxes.Shown.size(); ++i) titles += "box: " + desk.Boxes.Shown[i].Title + "\n";
+  return titles;
+}
+
+std::string_view LogStateName(LogStateKind state) {
+  return state == LogStateKind::Named ? "named" : state == LogStateKind::Unnamed ? "unnamed" : "none";
+}
+
+void WriteBytes(const std::string& path, std::string_view bytes) {
+  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (!out) {
+    std::fprintf(stderr, "fuzz: cannot write %s\n", path.c_str());
+    std::abort();
+  }
+}
+
+// The words of a text, split at blanks, line ends, commas, colons and
+// semicolons.
+std::vector<std::string> Words(std::string_view text, std::size_t most) {
+  std::vector<std::string> words;
+  std::string word;
+  for (char c : text) {
+    if (c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == ',' || c == ':' || c == ';') {
+      if (!word.empty()) words.push_back(std::move(word));
+      word.clear();
+      if (words.size() == most) return words;
+    } else {
+      word += c;
+    }
+  }
+  if (!word.empty() && words.size() < most) words.push_back(std::move(word));
+  return words;
+}
+
+std::vector<std::string> Lines(std::string_view text, std::size_t most) {
+  std::vector<std::string> lines;
+  while (!text.empty() && lines.size() < most) {
+    std::size_t end = text.find('\n');
+    std::string line(text.substr(0, end));
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    lines.push_back(std::move(line));
+    if (end == std::string_view::npos) break;
+    text.remove_prefix(end + 1);
+  }
+  return lines;
+}
+
+// The choices the contest form offers, each a different station: every
+// contest with every mode, location and station button the form accepts
+// for it, told apart by the header and state they give.
+const std::vector<ContestChoice>& OfferedChoices() {
+  static const std::vector<ContestChoice> choices = [] {
+    std::vector<ContestChoice> found;
+    std::set<std::string> seen;
+    for (int contest = 1; contest <= ContestCount; ++contest)
+      for (int mode = -1; mode <= 1; ++mode)
+        for (int location = -1; location <= 1; ++location)
+          for (int qth = -1; qth <= 2; ++qth) {
+            ContestChoice choice{contest, mode, location, qth, {}};
+            ContestState state;
+            bool cancelled = false;
+            ChCoForm form(state, cancelled);
+            if (!MakeChoice(form, choice) || cancelled) continue;
+            auto header = EncodeHeader(MakeHeader(state));
+            std::string key(header.begin(), header.end());
+            key += std::to_string(state.ModeEnabled[1]) + std::to_string(state.ModeEnabled[2]) +
+                   std::to_string(state.InState) + std::to_string(state.IsUSVEStation) + state.StationContinent;
+            if (seen.insert(key).second) found.push_back(choice);
+          }
+    return found;
+  }();
+  return choices;
+}
+
+}  // namespace
+
+Outcome OpenLogFile(std::string_view bytes) {
+  StartedProgram& program = Program();
+  Context& ctx = program.Fresh();
+  const std::string path = program.Folder() + "fuzz.TNX";
+  const std::string keptPath = program.Folder() + "fuzz.TNb";  // where a conversion keeps the old log
+  std::filesystem::remove(keptPath);
+  WriteBytes(path, bytes);
+
+  ScriptedPlatform desk;
+  desk.Time.Set(kClock);
+  LogForm form(ctx, desk.View);
+  desk.Files.Names.push_back(path);
+  form.mnuFileOpenLog_Click();
+
+  Outcome outcome;
+  outcome.Summary = Titles(desk);
+  outcome.Summary += "log: " + std::string(LogStateName(ctx.Log.LogState)) + ", contest " +
+                     std::to_string(ctx.Contest.ContestIndex) + ", record " + std::to_string(ctx.Log.RecordLength) +
+                     ", QSOs " + std::to_string(ctx.Log.QSOCount - 1) + (form.EndRequested ? ", program ends" : "") +
+                     "\n";
+  if (ctx.Log.LogState == LogStateKind::Named && ctx.Log.QSOCount > 1) {
+    // The operator's next step on an opened log: a call typed and the call
+    // box left, which scans the loaded records for it.
+    std::string call = LoggedRecord(ctx.Log, ctx.Log.QSOCount - 1).QCall.Trimmed();
+    std::size_t shown = desk.Boxes.Shown.size();
+    form.SetFocus(CallBox);
+    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
+    form.SetFocus(ExchangeBox);
+    outcome.Summary += Titles(desk, shown);
+    outcome.Summary += "dupe check: " + std::string(form.IsDupe ? "dupe" : form.FoundInLog ? "in log" : "new") + "\n";
+  }
+  std::filesystem::remove(path);
+  std::filesystem::remove(keptPath);
+  return outcome;
+}
+
+Outcome ReadSettingsFile(std::string_view bytes) {
+  const std::string appPath = "/fuzz/";
+  auto settings = std::make_unique<Settings>();
+  SettingsResult result = ParseSettings(bytes, "tarnix125.ini", *settings, appPath);
+  Outcome outcome;
+  if (!result.Ok) {
+    outcome.Summary = "refused: " + result.Error + "\n";
+    return outcome;
+  }
+  outcome.Summary = std::string("read") + (result.ProfilesRenamed ? ", profiles renamed" : "") + "\n";
+  // The program rewrites the file whole whenever a setting changes: what it
+  // writes must read back, and read back the same. One change is meant: an
+  // OpenFilePath that a file lacked is written empty, and an empty one reads
+  // as the program folder.
+  std::string written = SettingsText(*settings);
+  auto again = std::make_unique<Settings>();
+  SettingsResult reread = ParseSettings(written, "tarnix125.ini", *again, appPath);
+  if (settings->OpenFilePath.empty()) settings->OpenFilePath = appPath;
+  if (!reread.Ok) {
+    outcome.Fault = "the written settings do not read back: " + reread.Error;
+  } else if (SettingsText(*again) != SettingsText(*settings)) {
+    outcome.Fault = "the written settings read back different";
+  }
+  return outcome;
+}
+
+Outcome ReadStartupDataFile(std::string_view bytes) {
+  auto data = std::make_unique<StartupData>();
+  StartupDataResult result = ParseStartupData(bytes, "tarnix121.dat", *data);
+  Outcome outcome;
+  if (!result.Ok) {
+    outcome.Summary = "refused: " + result.Detail + "\n";
+    return outcome;
+  }
+  outcome.Summary = "read\n";
+  // What a log opened in each contest makes of the lists: its tables, and
+  // its parser on an exchange for each multiplier of its table, in the form
+  // the table accepts first, as an operator would type it.
+  auto tables = std::make_unique<MultiplierTables>();
+  ReceivedFields fields;
+  int accepted = 0, refused = 0;
+  auto check = [&](const ContestState& contest, const std::string& exchange) {
+    ParseResult parsed = ParseExchange("K3ZZZ", exchange, contest, *tables, *data, fields);
+    ++(parsed.Error ? refused : accepted);
+  };
+  for (int c = 1; c <= ContestCount; ++c) {
+    for (bool inState : {false, true}) {
+      ContestState contest;
+      contest.ContestIndex = static_cast<int16_t>(c);
+      contest.InState = inState;
+      LoadMultiplierTables(*data, c, inState, *tables);
+      MultiplierTables& t = *tables;
+      if (c == Cqp)
+        for (int row = 1; row <= CQPMultRows; ++row) check(contest, "12 " + t.CQPTable.At(row, 1));
+      if (c == Paqp)
+        for (int row = 1; row <= PAQPMultRows; ++row) check(contest, "12 " + t.PAQPTable.At(row, 1));
+      if (c == Neqp)
+        for (int row = 1; row <= NEQPMultRows; ++row) check(contest, t.NEQPTable.At(row, 3));
+      if (c == Sweepstakes && !inState)
+        for (int row = 1; row <= SSSectionRows; ++row) check(contest, "12 A 72 " + t.SSTable.At(row, 1));
+      if (c == Ten && !inState)
+        for (int row = 1; row <= TenMultRows; ++row) check(contest, t.TenTable.At(row, 1));
+      if (c == ArrlDx && !inState)  // a DX station sends its power and receives the state
+        for (int row = 1; row <= ARRLMultRows; ++row) check(contest, t.ARRLTable.At(row, 1));
+    }
+  }
+  outcome.Summary += "exchanges: " + std::to_string(accepted) + " accepted, " + std::to_string(refused) + " refused\n";
+  return outcome;
+}
+
+Outcome ReadCountryFile(std::string_view bytes) {
+  auto data = std::make_unique<CountryData>();
+  CountryFileResult result = ReadCountryText(bytes, "cty.dat", *data);
+  Outcome outcome;
+  outcome.Summary = (result.Ok ? std::string("read") : "refused: " + result.Detail) + ", " +
+                    std::to_string(data->CountryCount) + " countries, " + std::to_string(data->PrefixCount) +
+                    " prefixes\n";
+  // The first start makes the program's list from the package's file.
+  std::string seeded = MakeSeedCountryFile(std::string(bytes));
+  outcome.Summary += "seed list: " + std::to_string(seeded.size()) + " bytes\n";
+
+  Settings settings;
+  settings.StationLatitude = 40.0f;
+  settings.StationLongitude = -75.0f;
+  std::vector<std::string> calls = {"K3ZZZ", "W1AW/KH6", "KH6/W1AW", "DL1ABC/P", "VE3XYZ", "JA1ABC", "4U1UN", "W6XYZ/3", ""};
+  for (std::string& word : Words(bytes, 32)) calls.push_back(UCase(word));
+  ContestState generic, arrlDx, cqww;
+  generic.ContestIndex = Generic;
+  arrlDx.ContestIndex = ArrlDx;
+  arrlDx.IsUSVEStation = true;
+  cqww.ContestIndex = Cqww;
+  cqww.StationInUSA = true;
+  for (const std::string& call : calls) {
+    outcome.Summary += call + ":";
+    for (const ContestState* contest : {&generic, &arrlDx, &cqww}) {
+      std::string looked = call;
+      int16_t row = FindCountry(*data, *contest, looked);
+      outcome.Summary += " " + std::to_string(row) + "/" + std::to_string(data->LookupZone);
+      NameHeadingLine(*data, settings, row);
+      CQWWZonePrefill(*data, *contest, call);
+    }
+    std::string prefix = GetWPXPrefix(call);
+    outcome.Summary += " " + prefix + " " + std::to_string(GetNAZone(call)) + " " +
+                       std::string(NAClassText(ClassifyNAPrefix(prefix))) + "\n";
+  }
+  return outcome;
+}
+
+Outcome EnterExchanges(std::string_view bytes) {
+  Outcome outcome;
+  if (bytes.empty()) return outcome;
+  const std::vector<ContestChoice>& choices = OfferedChoices();
+  const ContestChoice& choice = choices[static_cast<unsigned char>(bytes[0]) % choices.size()];
+
+  Context& ctx = Program().Fresh();
+  ScriptedPlatform desk;
+  desk.Time.Set(kClock);
+  LogForm form(ctx, desk.View);
+  QueueContestChoice(desk.Forms, choice);
+  form.mnuFileNewLog_Click();
+  auto header = EncodeHeader(ctx.SavedHeader);
+  outcome.Summary = "contest " + std::to_string(ctx.Contest.ContestIndex) + ", header \"" +
+                    std::string(header.begin() + 20, header.end()) + "\"\n";
+  if (ctx.Log.LogState != LogStateKind::Unnamed) {
+    outcome.Summary += Titles(desk) + "no log\n";
+    return outcome;
+  }
+
+  for (const std::string& line : Lines(bytes.substr(1), 24)) {
+    std::string trimmed = Trim(line);
+    std::size_t blank = trimmed.find(' ');
+    std::string call = trimmed.substr(0, blank);
+    std::string exchange = blank == std::string::npos ? std::string() : LTrim(trimmed.substr(blank));
+    const int before = ctx.Log.QSOCount;
+    const std::size_t shown = desk.Boxes.Shown.size();
+    form.SetFocus(CallBox);
+    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
+    form.SetFocus(ExchangeBox);
+    form.InData_Change(ExchangeBox, exchange, static_cast<int>(exchange.size()));
+    form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
+    for (std::size_t i = shown; i < desk.Boxes.Shown.size(); ++i)
+      outcome.Summary += desk.Boxes.Shown[i].Title + "|" + desk.Boxes.Shown[i].Text + "|";
+    outcome.Summary += ctx.Log.QSOCount > before ? "logged\n" : "refused\n";
+  }
+  return outcome;
+}
+
+const std::vector<Harness>& Harnesses() {
+  static const std::vector<Harness> harnesses = {{"log_file", OpenLogFile},
+                                                 {"settings", ReadSettingsFile},
+                                                 {"startup_data", ReadStartupDataFile},
+                                                 {"country_file", ReadCountryFile},
+                                                 {"exchange", EnterExchanges}};
+  return harnesses;
+}
+
+const Harness* HarnessNamed(std::string_view name) {
+  for (const Harness& harness : Harnesses())
+    if (name == harness.Name) return &harness;
+  return nullptr;
+}
+
+}  // namespace tarnix::fuzz
