@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <memory>
 #include <set>
 
@@ -12,6 +13,8 @@
 #include "config/StartupData.h"
 #include "core/ChCoForm.h"
 #include "core/Text.h"
+#include "operating/BoxEditing.h"
+#include "operating/Keys.h"
 #include "operating/LogForm.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
@@ -54,6 +57,7 @@ class StartedProgram {
     w.Contest = s.Contest;
     w.Tables = s.Tables;
     w.Radio = s.Radio;
+    w.Keying = s.Keying;
     w.UserClipboard = s.UserClipboard;
     w.LogFileName.clear();
     w.SavedHeader = s.SavedHeader;
@@ -152,6 +156,22 @@ const std::vector<ContestChoice>& OfferedChoices() {
   }();
   return choices;
 }
+
+// A new log, as File > New Log makes it in the started program, of the
+// station a byte chooses among the offered ones.
+struct NewLogRun {
+  Context& Ctx;
+  ScriptedPlatform Desk;
+  LogForm Form;
+
+  explicit NewLogRun(unsigned char choice) : Ctx(Program().Fresh()), Form(Ctx, Desk.View) {
+    Desk.Time.Set(kClock);
+    const std::vector<ContestChoice>& choices = OfferedChoices();
+    QueueContestChoice(Desk.Forms, choices[choice % choices.size()]);
+    Form.mnuFileNewLog_Click();
+  }
+  bool Opened() const { return Ctx.Log.LogState == LogStateKind::Unnamed; }
+};
 
 }  // namespace
 
@@ -302,19 +322,14 @@ Outcome ReadCountryFile(std::string_view bytes) {
 Outcome EnterExchanges(std::string_view bytes) {
   Outcome outcome;
   if (bytes.empty()) return outcome;
-  const std::vector<ContestChoice>& choices = OfferedChoices();
-  const ContestChoice& choice = choices[static_cast<unsigned char>(bytes[0]) % choices.size()];
-
-  Context& ctx = Program().Fresh();
-  ScriptedPlatform desk;
-  desk.Time.Set(kClock);
-  LogForm form(ctx, desk.View);
-  QueueContestChoice(desk.Forms, choice);
-  form.mnuFileNewLog_Click();
+  NewLogRun run(static_cast<unsigned char>(bytes[0]));
+  Context& ctx = run.Ctx;
+  ScriptedPlatform& desk = run.Desk;
+  LogForm& form = run.Form;
   auto header = EncodeHeader(ctx.SavedHeader);
   outcome.Summary = "contest " + std::to_string(ctx.Contest.ContestIndex) + ", header \"" +
                     std::string(header.begin() + 20, header.end()) + "\"\n";
-  if (ctx.Log.LogState != LogStateKind::Unnamed) {
+  if (!run.Opened()) {
     outcome.Summary += Titles(desk) + "no log\n";
     return outcome;
   }
@@ -338,12 +353,81 @@ Outcome EnterExchanges(std::string_view bytes) {
   return outcome;
 }
 
+namespace {
+
+// The keys a byte from 0x80 up presses, by its value modulo their count.
+constexpr int kKeyCodes[] = {KeyBackspace, KeyTab, KeyEnter, KeyCapsLock, KeyEscape, KeySpace, KeyPageUp,
+                             KeyPageDown,  KeyEnd, KeyHome,  KeyLeft,     KeyUp,     KeyRight, KeyDown,
+                             KeyInsert,    KeyDelete, KeyApostrophe, KeyF1, KeyF2, KeyF3, KeyF4, KeyF5,
+                             KeyF6,        KeyF7, KeyF8, KeyF9, KeyF10, KeyF11, KeyF12, KeyA, KeyM, KeyR,
+                             KeyW,         KeyX, KeyZ};
+constexpr MsgAnswer kAnswers[] = {MsgAnswer::Yes,   MsgAnswer::No,    MsgAnswer::Cancel, MsgAnswer::OK,
+                                  MsgAnswer::Abort, MsgAnswer::Retry, MsgAnswer::Ignore};
+
+// Where the log on disk and the log in memory first differ: the file must be
+// the header, and from the first QSO on the header's slot and QSOs 1 to
+// QSOCount - 1, each as memory encodes it.
+std::string DiskAgainstMemory(const Context& ctx) {
+  std::ifstream in(ctx.LogFileName, std::ios::binary);
+  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  const int qsos = ctx.Log.QSOCount - 1;
+  const std::size_t want = qsos == 0 ? LogHeaderSize : static_cast<std::size_t>(qsos + 1) * QsoRecordSize;
+  if (bytes.size() != want)
+    return "the log file holds " + std::to_string(bytes.size()) + " bytes for " + std::to_string(qsos) + " QSOs";
+  auto header = EncodeHeader(ctx.SavedHeader);
+  if (bytes.compare(0, header.size(), header.data(), header.size()) != 0) return "the header on disk differs";
+  for (int n = 1; n <= qsos; ++n) {
+    auto record = EncodeRecord(ctx.Log.LogRecords.At(n));
+    if (bytes.compare(static_cast<std::size_t>(n) * QsoRecordSize, QsoRecordSize, record.data(), record.size()) != 0)
+      return "QSO " + std::to_string(n) + " on disk differs from memory";
+  }
+  return {};
+}
+
+}  // namespace
+
+Outcome PressKeys(std::string_view bytes) {
+  Outcome outcome;
+  if (bytes.empty()) return outcome;
+  NewLogRun run(static_cast<unsigned char>(bytes[0]));
+  if (!run.Opened()) {
+    outcome.Summary = Titles(run.Desk) + "no log\n";
+    return outcome;
+  }
+
+  int modifiers = 0;
+  std::size_t requests = 0;
+  for (unsigned char b : bytes.substr(1, 512)) {
+    if (b >= 0x80) {
+      const int code = kKeyCodes[(b - 0x80) % std::size(kKeyCodes)];
+      if (!run.Form.PressKey(code, modifiers)) EditFocusedBox(run.Form, code);
+      modifiers = 0;
+    } else if (b >= 0x20 && b < 0x7f) {
+      run.Form.TypeCharacter(static_cast<char>(b));
+    } else if (b >= 1 && b <= 7) {
+      modifiers |= b;  // Shift, Ctrl and Alt bits
+    } else if (b >= 0x10 && b < 0x10 + std::size(kAnswers)) {
+      run.Desk.Boxes.Answers.push_back(kAnswers[b - 0x10]);
+    } else if (b == 0x1f) {
+      run.Desk.Time.Advance(61000);
+    }
+    requests += run.Form.Requests.size();
+    run.Form.Requests.clear();
+  }
+  outcome.Summary = Titles(run.Desk) + "contest " + std::to_string(run.Ctx.Contest.ContestIndex) + ", requests " +
+                    std::to_string(requests) + ", QSOs " +
+                    std::to_string(run.Ctx.Log.QSOCount - 1) + "\n";
+  outcome.Fault = DiskAgainstMemory(run.Ctx);
+  return outcome;
+}
+
 const std::vector<Harness>& Harnesses() {
   static const std::vector<Harness> harnesses = {{"log_file", OpenLogFile},
                                                  {"settings", ReadSettingsFile},
                                                  {"startup_data", ReadStartupDataFile},
                                                  {"country_file", ReadCountryFile},
-                                                 {"exchange", EnterExchanges}};
+                                                 {"exchange", EnterExchanges},
+                                                 {"keys", PressKeys}};
   return harnesses;
 }
 

@@ -46,6 +46,14 @@ Outcome ReadCountryFile(std::string_view bytes);
 // the call box, the call box left, the rest into the exchange box, Enter.
 Outcome EnterExchanges(std::string_view bytes);
 
+// The keyboard of the entry form. The first byte chooses the station as for
+// EnterExchanges; then each printable byte is a character typed into the
+// focused box, each byte from 0x80 up a key (the function, editing and
+// command keys, with the modifiers a byte below 0x20 set for it), and a few
+// bytes below 0x20 queue an answer for the next message box or move the
+// clock on. After the keys, the log on disk must hold what memory holds.
+Outcome PressKeys(std::string_view bytes);
+
 // The harnesses by name, as the corpus and regression folders and the
 // fuzzers of fuzz/CMakeLists.txt name them.
 struct Harness {

@@ -73,10 +73,11 @@ GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(FuzzRegression);
 class FuzzSeed : public ::testing::TestWithParam<Case> {};
 
 // What each reader says of a file it takes: the start of its summary, or for
-// the exchanges a logged QSO.
+// the exchanges and the keys a logged QSO.
 bool Accepted(const std::string& harness, const std::string& summary) {
   if (harness == "log_file") return summary.find("log: named") != std::string::npos;
   if (harness == "exchange") return summary.find("logged\n") != std::string::npos;
+  if (harness == "keys") return summary.find("QSOs ") != std::string::npos && !summary.ends_with("QSOs 0\n");
   return summary.starts_with("read");
 }
 
