@@ -27,6 +27,19 @@ bool SamePath(const std::string& a, const std::string& b) {
   return a == b || std::filesystem::equivalent(a, b, ignored);
 }
 
+// A log file's bytes: the header, then records 1 to lastQso of the table,
+// record n in the slot n of recordSize bytes (60 for a new log, 36 or 26 for
+// the old shapes).
+template <typename Records>
+std::string FileBytes(const LogHeader& header, const Records& records, int lastQso, std::size_t recordSize) {
+  std::string bytes(static_cast<std::size_t>(lastQso + 1) * recordSize, '\0');
+  auto encoded = EncodeHeader(header);
+  std::copy(encoded.begin(), encoded.end(), bytes.begin());
+  for (int n = 1; n <= lastQso; ++n)
+    EncodeRecord(records.At(n), std::span(bytes.data() + static_cast<std::size_t>(n) * recordSize, recordSize));
+  return bytes;
+}
+
 }  // namespace
 
 // The store, the contest counters and the portable table, emptied for a
@@ -405,29 +418,18 @@ FileError LogForm::WriteLogRecord(int n) {
 // The log file as memory holds it: the header and QSOs 1 to lastQso, each at
 // the record length of a new log.
 std::string LogForm::LogFileBytes(int lastQso) const {
-  std::string bytes(static_cast<std::size_t>(lastQso + 1) * QsoRecordSize, '\0');
-  auto header = EncodeHeader(Ctx.SavedHeader);
-  std::copy(header.begin(), header.end(), bytes.begin());
-  for (int n = 1; n <= lastQso; ++n) {
-    auto record = EncodeRecord(Ctx.Log.LogRecords.At(n));
-    std::copy(record.begin(), record.end(), bytes.begin() + static_cast<std::ptrdiff_t>(n * QsoRecordSize));
-  }
-  return bytes;
+  return FileBytes(Ctx.SavedHeader, Ctx.Log.LogRecords, lastQso, QsoRecordSize);
 }
 
 // The copy Kill All leaves in the program folder: the header and, at the
 // record length of the old shapes, the short or middle records. A log of
 // 60-byte records has its QSOs in neither, so its copy holds blank records.
 bool LogForm::WriteKilledFile() {
-  int c = Ctx.Contest.ContestIndex;
-  std::size_t R = (c == Sprint || c == Naqp) ? QsoRecordMidSize : QsoRecordShortSize;
-  std::string bytes(static_cast<std::size_t>(Ctx.Log.QSOCount) * R, '\0');
-  auto header = EncodeHeader(Ctx.SavedHeader);
-  std::copy(header.begin(), header.end(), bytes.begin());
-  for (int n = 1; n < Ctx.Log.QSOCount; ++n) {
-    const QsoRecord& r = R == QsoRecordMidSize ? Ctx.Log.LogRecordsMid.At(n) : Ctx.Log.LogRecordsShort.At(n);
-    EncodeRecord(r, std::span(bytes.data() + static_cast<std::size_t>(n) * R, R));
-  }
+  const int c = Ctx.Contest.ContestIndex;
+  const int last = Ctx.Log.QSOCount - 1;
+  std::string bytes = c == Sprint || c == Naqp
+                          ? FileBytes(Ctx.SavedHeader, Ctx.Log.LogRecordsMid, last, QsoRecordMidSize)
+                          : FileBytes(Ctx.SavedHeader, Ctx.Log.LogRecordsShort, last, QsoRecordShortSize);
   return WriteWithRetry([&] { return Desk.Disk.Replace(Ctx.AppPath + "KilledFile.tnx", bytes); });
 }
 
