@@ -15,6 +15,7 @@
 #include "operating/LogForm.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
+#include "operating/StartedFormTest.h"
 
 namespace tarnix {
 namespace {
@@ -26,16 +27,11 @@ struct Row {
   const char* stored;   // of a logged QSO: "call|received number|received text", SS adding "|multiplier"
 };
 
-class ParserEntryTest : public ::testing::Test {
+class ParserEntryTest : public StartedFormTest {
  protected:
-  TempFolder home;
-  std::unique_ptr<Context> ctx = MakeContext(home.Path);
-  ScriptedPlatform desk;
-  std::unique_ptr<LogForm> form;
 
   void SetUp() override {
-    ASSERT_TRUE(StartProgram(*ctx, desk.View));
-    form = std::make_unique<LogForm>(*ctx, desk.View);
+    ASSERT_TRUE(started);
     desk.Time.Set({2026, 11, 7, 21, 5, 0});
   }
   // location and qth are the buttons of the contest form, -1 for its default.
@@ -46,30 +42,30 @@ class ParserEntryTest : public ::testing::Test {
     choice.LocationButton = location;
     choice.QthButton = qth;
     QueueContestChoice(desk.Forms, choice);
-    form->mnuFileNewLog_Click();
+    form.mnuFileNewLog_Click();
   }
 
   // The call typed, the exchange box entered, the exchange typed, Enter.
   std::string Enter(const std::string& call, const std::string& exchange) {
     const int before = ctx->Log.QSOCount;
     const std::size_t boxes = desk.Boxes.Shown.size();
-    form->SetFocus(CallBox);
-    form->InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form->SetFocus(ExchangeBox);
-    form->InData_Change(ExchangeBox, exchange, static_cast<int>(exchange.size()));
-    form->InData_KeyDown(ExchangeBox, KeyEnter, 0);
+    form.SetFocus(CallBox);
+    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
+    form.SetFocus(ExchangeBox);
+    form.InData_Change(ExchangeBox, exchange, static_cast<int>(exchange.size()));
+    form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
 
     std::string outcome;
     for (std::size_t i = boxes; i < desk.Boxes.Shown.size(); ++i) {
       EXPECT_EQ(desk.Boxes.Shown[i].Icon, MsgIcon::Critical);
       outcome += desk.Boxes.Shown[i].Title + "|" + desk.Boxes.Shown[i].Text + "|";
     }
-    EXPECT_FALSE(form->ExchangeError || form->ParserReopenedBox);
+    EXPECT_FALSE(form.ExchangeError || form.ParserReopenedBox);
     if (ctx->Log.QSOCount > before) return outcome + "logged";
     // A refused entry leaves both boxes as typed.
-    EXPECT_EQ(form->InData[CallBox].Text + "|" + form->InData[ExchangeBox].Text, call + "|" + exchange);
-    const TextBox& box = form->InData[static_cast<std::size_t>(form->FocusedBox)];
-    return outcome + (form->FocusedBox == CallBox ? "call " : "exchange ") + std::to_string(box.SelStart) + "+" +
+    EXPECT_EQ(form.InData[CallBox].Text + "|" + form.InData[ExchangeBox].Text, call + "|" + exchange);
+    const TextBox& box = form.InData[static_cast<std::size_t>(form.FocusedBox)];
+    return outcome + (form.FocusedBox == CallBox ? "call " : "exchange ") + std::to_string(box.SelStart) + "+" +
            std::to_string(box.SelLength);
   }
   std::string Stored(int n) {
@@ -123,15 +119,15 @@ TEST_F(ParserEntryTest, CaliforniaPennsylvaniaAndNewEnglandNumberAndCounty) {
 TEST_F(ParserEntryTest, CaliforniaCountyLineKeepsCallAndNumberForTheNextCounty) {
   NewLog(Cqp);
   EXPECT_EQ(Enter("K6AW", "56 sdg/"), "logged");
-  EXPECT_TRUE(form->CountyLine);
-  EXPECT_EQ(form->InData[CallBox].Text + "|" + form->InData[ExchangeBox].Text, "K6AW|56");
-  EXPECT_EQ(form->FocusedBox, ExchangeBox);
-  EXPECT_EQ(form->InData[ExchangeBox].SelStart, 2);
-  for (char ch : std::string(" org")) form->InData_KeyPress(ExchangeBox, ch);
-  form->InData_KeyDown(ExchangeBox, KeyEnter, 0);
+  EXPECT_TRUE(form.CountyLine);
+  EXPECT_EQ(form.InData[CallBox].Text + "|" + form.InData[ExchangeBox].Text, "K6AW|56");
+  EXPECT_EQ(form.FocusedBox, ExchangeBox);
+  EXPECT_EQ(form.InData[ExchangeBox].SelStart, 2);
+  for (char ch : std::string(" org")) form.InData_KeyPress(ExchangeBox, ch);
+  form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
   EXPECT_EQ(Stored(1) + " " + Stored(2), "K6AW|56| K6AW|56|");
-  EXPECT_FALSE(form->CountyLine);
-  EXPECT_EQ(form->InData[CallBox].Text + form->InData[ExchangeBox].Text, "");
+  EXPECT_FALSE(form.CountyLine);
+  EXPECT_EQ(form.InData[CallBox].Text + form.InData[ExchangeBox].Text, "");
 }
 
 TEST_F(ParserEntryTest, SprintAndCwOpenNumberAndName) {
@@ -176,17 +172,17 @@ TEST_F(ParserEntryTest, SweepstakesWithOrWithoutBlanks) {
 TEST_F(ParserEntryTest, SweepstakesCallBetweenPrecedenceAndCheckCorrectsTheCall) {
   NewLog(Sweepstakes);
   Enter("K3ZZZ", "1 A 58 EB");
-  EXPECT_EQ(form->lblDupe.Caption, "");
+  EXPECT_EQ(form.lblDupe.Caption, "");
   // Corrected to a call already worked: a dupe, shown and logged with 0 points.
   EXPECT_EQ(Enter("W1AW", "2 A K3ZZZ 59 EB"), "logged");
   EXPECT_EQ(Stored(2), "K3ZZZ|2||A59EB");
   EXPECT_EQ(ctx->Log.LogRecords.At(2).QPoints.Str(), "0");
-  EXPECT_TRUE(form->IsDupe);
-  EXPECT_EQ(form->lblDupe.Caption.substr(0, 7), "DUPE - ");
+  EXPECT_TRUE(form.IsDupe);
+  EXPECT_EQ(form.lblDupe.Caption.substr(0, 7), "DUPE - ");
 
   EXPECT_EQ(Enter("W1AW", "3 A N5DX 60 SCV"), "logged");
   EXPECT_EQ(Stored(3), "N5DX|3||A60CV");
-  EXPECT_FALSE(form->IsDupe);
+  EXPECT_FALSE(form.IsDupe);
 
   Check({{"W1AW", "4 A K3Z 61 SCV", "logged", "W1AW|4||A61CV"},  // under four characters: no call
          {"W2AB", "5 A K3ZZZ/4 62 SCV", "logged", "K3ZZZ/4|5||A62CV"},
@@ -197,7 +193,7 @@ TEST_F(ParserEntryTest, SweepstakesCallBetweenPrecedenceAndCheckCorrectsTheCall)
 TEST_F(ParserEntryTest, WpxSerialInTheExchangeOrOnTheCall) {
   NewLog(Wpx);
   EXPECT_EQ(Enter("K3ZZZ123", ""), "logged");
-  EXPECT_EQ(form->CurrentPrefix, "K3");  // the prefix is taken from the call without the serial
+  EXPECT_EQ(form.CurrentPrefix, "K3");  // the prefix is taken from the call without the serial
   Check({{"K3Z1", "", "logged", "K3Z|1|"},
          {"W1AX", "1", "logged", "W1AX|1|"},
          {"W1AY", "9999", "logged", "W1AY|9999|"},
@@ -237,19 +233,19 @@ TEST_F(ParserEntryTest, CqwwZoneIsFilledInWhenTheCallBoxIsLeft) {
   // else the NA zone of the call area, two digits (K3); else the country's.
   for (Fill f : {Fill{"K3ZZZ", " 05"}, Fill{"W6XX", " 3"}, Fill{"VE3EJ", " 4"}, Fill{"DL1ABC", " 14"},
                  Fill{"JA1XYZ", " 25"}}) {
-    form->SetFocus(CallBox);
-    form->InData_Change(CallBox, f.call, 5);
-    form->InData_Change(ExchangeBox, "", 0);
-    form->SetFocus(ExchangeBox);
-    EXPECT_EQ(form->InData[ExchangeBox].Text, f.zone) << f.call;
-    form->InData_KeyDown(ExchangeBox, KeyEnter, 0);
+    form.SetFocus(CallBox);
+    form.InData_Change(CallBox, f.call, 5);
+    form.InData_Change(ExchangeBox, "", 0);
+    form.SetFocus(ExchangeBox);
+    EXPECT_EQ(form.InData[ExchangeBox].Text, f.zone) << f.call;
+    form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
     EXPECT_EQ(ctx->Log.LogRecords.At(ctx->Log.QSOCount - 1).QRcvNumber, static_cast<int16_t>(Val(f.zone))) << f.call;
   }
   // A zone the operator typed before leaving the call box stays.
-  form->InData_Change(CallBox, "OH2BH", 5);
-  form->InData_Change(ExchangeBox, "15", 2);
-  form->SetFocus(ExchangeBox);
-  EXPECT_EQ(form->InData[ExchangeBox].Text, "15");
+  form.InData_Change(CallBox, "OH2BH", 5);
+  form.InData_Change(ExchangeBox, "15", 2);
+  form.SetFocus(ExchangeBox);
+  EXPECT_EQ(form.InData[ExchangeBox].Text, "15");
 }
 
 TEST_F(ParserEntryTest, NaqpNameAndMultiplierAsTyped) {

@@ -17,6 +17,7 @@
 #include "operating/LogForm.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
+#include "operating/StartedFormTest.h"
 
 namespace tarnix {
 namespace {
@@ -29,37 +30,32 @@ struct Qso {
   const char* scored;
 };
 
-class ScoringEntryTest : public ::testing::Test {
+class ScoringEntryTest : public StartedFormTest {
  protected:
-  TempFolder home;
-  std::unique_ptr<Context> ctx = MakeContext(home.Path);
-  ScriptedPlatform desk;
-  std::unique_ptr<LogForm> form;
   int saved = 0;
 
   void SetUp() override {
-    ASSERT_TRUE(StartProgram(*ctx, desk.View));
-    form = std::make_unique<LogForm>(*ctx, desk.View);
+    ASSERT_TRUE(started);
     desk.Time.Set({2026, 11, 28, 12, 0, 0});
   }
   void NewLog(int contest, int qth = -1, const char* continent = "", int location = -1) {
     if (ctx->Log.LogState == LogStateKind::Named) desk.Boxes.Answers.push_back(MsgAnswer::Yes);
     QueueContestChoice(desk.Forms, ContestChoice{contest, -1, location, qth, continent});
-    form->mnuFileNewLog_Click();
+    form.mnuFileNewLog_Click();
   }
   void Type(int band, const std::string& call) {
     ctx->Contest.BandIndex = static_cast<int16_t>(band);
-    form->SetFocus(CallBox);
-    form->InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form->SetFocus(ExchangeBox);
+    form.SetFocus(CallBox);
+    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
+    form.SetFocus(ExchangeBox);
   }
   void Log(const std::vector<Qso>& qsos) {
     for (const Qso& q : qsos) {
       SCOPED_TRACE(std::string(q.call) + " " + q.exchange);
       const int n = ctx->Log.QSOCount;
       Type(q.band, q.call);
-      form->InData_Change(ExchangeBox, q.exchange, static_cast<int>(std::string(q.exchange).size()));
-      form->InData_KeyDown(ExchangeBox, KeyEnter, 0);
+      form.InData_Change(ExchangeBox, q.exchange, static_cast<int>(std::string(q.exchange).size()));
+      form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
       ASSERT_EQ(ctx->Log.QSOCount, n + 1);
       const QsoRecord& r = ctx->Log.LogRecords.At(n);
       EXPECT_EQ(r.QPoints.Str() + "|" + r.QMult.Trimmed(), q.scored);
@@ -98,33 +94,33 @@ class ScoringEntryTest : public ::testing::Test {
   // Saves the log, opens it again and expects the replay to rebuild what
   // logging left, tables and labels included.
   void ExpectReplayEqual() {
-    const std::string before = Snapshot(), score = form->ScoreLabel.Caption + form->MultsLabel.Caption;
+    const std::string before = Snapshot(), score = form.ScoreLabel.Caption + form.MultsLabel.Caption;
     const MultiplierTables tables = ctx->Tables;
     const std::string path = home.Path + "log" + std::to_string(++saved) + ".TNX";
     desk.Files.Names.push_back(path);
-    form->mnuFileSave_Click();
+    form.mnuFileSave_Click();
     desk.Boxes.Answers.push_back(MsgAnswer::Yes);  // open a different one
     desk.Files.Names.push_back(path);
-    form->mnuFileOpenLog_Click();
+    form.mnuFileOpenLog_Click();
     EXPECT_EQ(Snapshot(), before);
     EXPECT_TRUE(ctx->Tables == tables);
-    EXPECT_EQ(form->ScoreLabel.Caption + form->MultsLabel.Caption, score);
+    EXPECT_EQ(form.ScoreLabel.Caption + form.MultsLabel.Caption, score);
   }
   // NeedPfxLabel and LblWpxCountry once the call box is left.
   std::string Labels(int band, const std::string& call) {
     Type(band, call);
-    const Label& need = form->NeedPfxLabel;
+    const Label& need = form.NeedPfxLabel;
     std::string s = !need.Visible ? "hidden" : need.Caption + (need.ForeColor == ColourRed ? "|red" : "|blue");
-    if (form->LblWpxCountry.Visible) s += "|" + form->LblWpxCountry.Caption;
-    form->CancelButton_Click();
+    if (form.LblWpxCountry.Visible) s += "|" + form.LblWpxCountry.Caption;
+    form.CancelButton_Click();
     return s;
   }
   // LabelNeededOn after the exchange is typed key by key.
   std::string NeededOn(int band, const std::string& call, const std::string& exchange) {
     Type(band, call);
-    for (char ch : exchange) form->InData_KeyPress(ExchangeBox, ch);
-    std::string s = form->LabelNeededOn.Visible ? form->LabelNeededOn.Caption : "hidden";
-    form->CancelButton_Click();
+    for (char ch : exchange) form.InData_KeyPress(ExchangeBox, ch);
+    std::string s = form.LabelNeededOn.Visible ? form.LabelNeededOn.Caption : "hidden";
+    form.CancelButton_Click();
     return s;
   }
 };
@@ -137,7 +133,7 @@ TEST_F(ScoringEntryTest, CqwwFromTheUsaByPrefixClassCountryAndZonePerBand) {
        {3, "KH6ABC", "31", "3|KH6"}});
   EXPECT_EQ(Totals(), "22 16 352 3:9/19/14 4:1/3/2");
   EXPECT_EQ(ctx->Counters.BandCountries[3] * 100 + ctx->Counters.BandZones[3], 707);
-  EXPECT_EQ(form->ScoreLabel.Caption + "|" + form->MultsLabel.Caption, "Score: 352|Mults:  16");
+  EXPECT_EQ(form.ScoreLabel.Caption + "|" + form.MultsLabel.Caption, "Score: 352|Mults:  16");
   EXPECT_EQ(Labels(3, "DL5ZZ"), "Country Ck\n     DL\n Worked|blue");
   EXPECT_EQ(Labels(2, "DL5ZZ"), "Country Ck\n     DL\n NEEDED|red");
   ExpectReplayEqual();
@@ -192,7 +188,7 @@ TEST_F(ScoringEntryTest, CaliforniaQsoPartyCountiesOnceCountyLineAndCaliforniaSt
 
   NewLog(Cqp, -1, "", 0);  // in California: all counties are California
   Log({{3, "K6AW", "1 ALA", "3|ALAM"}});
-  EXPECT_EQ(form->NewMultRow, 5);  // California's row of the states
+  EXPECT_EQ(form.NewMultRow, 5);  // California's row of the states
   Log({{4, "N6XX", "2 ALA", "3|ALAM"}, {3, "W1AW", "3 CT", "3|7"},
        {11, "K3ZZZ", "4 MDC", "2|20"}, {3, "VE3EJ", "5 XYZ", "3|XYZ"},  {3, "K6ZZ", "6 SDG", "3|SDIE"}});
   EXPECT_EQ(Totals(), "17 3 51 3:4/12/2 4:1/3/0 11:1/2/1");
@@ -244,7 +240,7 @@ TEST_F(ScoringEntryTest, TenMeterStatesAndCountriesPerMode) {
        {1, "DL1ABC", "123", "4|DL"},  {9, "DL1ABC", "124", "2|DL"},   {1, "KH6ABC", "HI", "4|HI"},
        {1, "DL1ABC", "125", "0|DL"},  {9, "VE3EJ", "ON", "2|ON"}});
   EXPECT_EQ(Totals(), "26 6 156 1:5/20/1 9:3/6/1");
-  EXPECT_TRUE(form->NewMult && form->NewMultRow == 55);  // ON, the row of the 10M list
+  EXPECT_TRUE(form.NewMult && form.NewMultRow == 55);  // ON, the row of the 10M list
   const ContestCounters& k = ctx->Counters;
   EXPECT_EQ(k.TenCWMults * 1000 + k.TenSSBMults * 100 + k.CWQSOs * 10 + k.PhoneQSOs, 2234);
   EXPECT_EQ(Labels(1, "DL5ZZ"), "CW - Wkd\nPH - Wkd|blue|Fed. Rep. of Germany");
@@ -258,7 +254,7 @@ TEST_F(ScoringEntryTest, GenericCountsCountriesByModeAndAllAsianPrefixesPerBand)
   Log({{3, "K3ZZZ", "599 PA", "2|"}, {11, "K3ZZZ", "59 PA", "1|"}, {3, "DL1ABC", "599", "2|"},
        {4, "DL1ABC", "599", "2|"},   {3, "KH6ABC", "599", "2|"},   {11, "JA1XYZ", "59", "1|"}});
   EXPECT_EQ(Totals(), "10 0 0 3:3/6/0 4:1/2/0 11:2/2/0");
-  EXPECT_EQ(form->ScoreLabel.Caption + "|" + form->MultsLabel.Caption, " CW Cties: 3|SSB Cties: 2");
+  EXPECT_EQ(form.ScoreLabel.Caption + "|" + form.MultsLabel.Caption, " CW Cties: 3|SSB Cties: 2");
   EXPECT_EQ(Labels(3, "DL5ZZ"), "CW - Wkd\nPH - NEED|red|Fed. Rep. of Germany");
   EXPECT_EQ(Labels(3, "KH6XYZ"), "|blue|Hawaii");
   ExpectReplayEqual();
