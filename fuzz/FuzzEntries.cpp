@@ -3,8 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <set>
 
@@ -17,6 +15,7 @@
 #include "operating/Keys.h"
 #include "operating/LogForm.h"
 #include "operating/Startup.h"
+#include "platform/FileStore.h"
 #include "platform/Scripted.h"
 #include "rules/Countries.h"
 #include "rules/MultiplierTables.h"
@@ -91,10 +90,8 @@ std::string_view LogStateName(LogStateKind state) {
 }
 
 void WriteBytes(const std::string& path, std::string_view bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (!out) {
-    std::fprintf(stderr, "fuzz: cannot write %s\n", path.c_str());
+  if (FileError error = DiskFileStore().Replace(path, bytes)) {
+    std::fprintf(stderr, "fuzz: %s\n", error->c_str());
     std::abort();
   }
 }
@@ -368,8 +365,8 @@ constexpr MsgAnswer kAnswers[] = {MsgAnswer::Yes,   MsgAnswer::No,    MsgAnswer:
 // the header, and from the first QSO on the header's slot and QSOs 1 to
 // QSOCount - 1, each as memory encodes it.
 std::string DiskAgainstMemory(const Context& ctx) {
-  std::ifstream in(ctx.LogFileName, std::ios::binary);
-  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  std::string bytes;
+  DiskFileStore().ReadAll(ctx.LogFileName, bytes);  // a missing file reads as no bytes, which the size check tells
   const int qsos = ctx.Log.QSOCount - 1;
   const std::size_t want = qsos == 0 ? LogHeaderSize : static_cast<std::size_t>(qsos + 1) * QsoRecordSize;
   if (bytes.size() != want)
