@@ -8,6 +8,7 @@
 #include "operating/AboutTarnix.h"
 #include "operating/Context.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "operating/Startup.h"
 #include "platform/qt/QtPlatform.h"
 
@@ -22,7 +23,10 @@ int main(int argc, char** argv) {
   desk.Forms.ShowModeless(welcome);
   if (!tarnix::StartProgram(*ctx, desk.View)) return 1;
 
-  tarnix::LogForm model(*ctx, desk.View);
+  // Until the keyers and the radios are connected, the window's requests
+  // to them are only written down.
+  tarnix::RecordingStation station;
+  tarnix::LogForm model(*ctx, desk.View, station.View);
   tarnix::LogFormView window(model);
   window.show();
   model.CheckRecovery();

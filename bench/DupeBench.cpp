@@ -14,6 +14,7 @@
 #include "core/LogStore.h"
 #include "core/Text.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "platform/Scripted.h"
 #include "rules/DupeCheck.h"
 
@@ -103,7 +104,8 @@ void BM_ExchangeFocusStep(benchmark::State& state) {
   ScriptedPlatform desk;
   desk.Time.Set({2026, 11, 22, 0, 0, 0});
   auto ctx = MakeContext(home.Path);
-  LogForm form(*ctx, desk.View);
+  RecordingStation station;
+  LogForm form(*ctx, desk.View, station.View);
   QueueContestChoice(desk.Forms, Cqww);
   form.mnuFileNewLog_Click();
   for (const std::string& call : calls) {

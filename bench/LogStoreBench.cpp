@@ -9,6 +9,7 @@
 #include "core/ChCoForm.h"
 #include "core/LogStore.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "platform/Scripted.h"
 
 namespace {
@@ -50,7 +51,8 @@ void BM_ProcessEntryFullLog(benchmark::State& state) {
     desk.Time.Set({2026, 11, 22, 0, 0, 0});
     TempFolder home;
     auto ctx = MakeContext(home.Path);
-    LogForm form(*ctx, desk.View);
+    RecordingStation station;
+    LogForm form(*ctx, desk.View, station.View);
     QueueContestChoice(desk.Forms, Generic);
     form.mnuFileNewLog_Click();
     state.ResumeTiming();
@@ -75,7 +77,8 @@ void BM_OpenFullLog(benchmark::State& state) {
   ScriptedPlatform desk;
   desk.Time.Set({2026, 11, 22, 0, 0, 0});
   auto ctx = MakeContext(home.Path);
-  LogForm form(*ctx, desk.View);
+  RecordingStation station;
+    LogForm form(*ctx, desk.View, station.View);
   QueueContestChoice(desk.Forms, Generic);
   form.mnuFileNewLog_Click();
   for (const std::string& call : calls) {

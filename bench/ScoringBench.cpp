@@ -13,6 +13,7 @@
 #include "BenchLogs.h"
 #include "core/ChCoForm.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
 
@@ -26,6 +27,7 @@ using bench::MakeCalls;
 struct SavedLog {
   TempFolder Home;
   ScriptedPlatform Desk;
+  RecordingStation Station;
   std::unique_ptr<Context> Ctx = MakeContext(Home.Path);
   std::unique_ptr<LogForm> Form;
   std::string Path = Home.Path + "full.TNX";
@@ -34,7 +36,7 @@ struct SavedLog {
   SavedLog(const ContestChoice& choice, const std::vector<std::string>& calls,
            const std::function<std::string(int)>& exchange) {
     if (!StartProgram(*Ctx, Desk.View)) return;
-    Form = std::make_unique<LogForm>(*Ctx, Desk.View);
+    Form = std::make_unique<LogForm>(*Ctx, Desk.View, Station.View);
     Desk.Time.Set({2026, 11, 28, 0, 0, 0});
     QueueContestChoice(Desk.Forms, choice);
     Form->mnuFileNewLog_Click();

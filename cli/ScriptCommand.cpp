@@ -86,8 +86,8 @@ std::string RunLine(Session& session, const std::string& line, std::ostream& out
   } else {
     return "bad action '" + line + "'";
   }
-  for (const std::string& request : form.Requests) out << "REQUEST " << request << '\n';
-  form.Requests.clear();
+  for (const std::string& request : session.Station.Requests) out << "REQUEST " << request << '\n';
+  session.Station.Requests.clear();
   return {};
 }
 
@@ -127,7 +127,7 @@ int Script(const Args& args, std::ostream& out, std::ostream& err) {
   } else if (!session.Open(Absolute(logName))) {
     return 1;
   }
-  session.Form.Requests.clear();
+  session.Station.Requests.clear();
 
   std::string line;
   for (int number = 1; std::getline(file, line); ++number) {

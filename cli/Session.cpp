@@ -23,7 +23,7 @@ std::unique_ptr<Context> Session::Begin(std::ostream& out, const std::string& ap
   return ctx;
 }
 
-Session::Session(std::ostream& out, const std::string& appPath) : Ctx(Begin(out, appPath)), Form(*Ctx, Desk.View) {}
+Session::Session(std::ostream& out, const std::string& appPath) : Ctx(Begin(out, appPath)), Form(*Ctx, Desk.View, Station.View) {}
 
 bool Session::Open(const std::string& path) {
   Desk.Files.Names.push_back(path);

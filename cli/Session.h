@@ -8,6 +8,7 @@
 #include <string>
 
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "platform/Scripted.h"
 
 namespace tarnix::cli {
@@ -23,6 +24,7 @@ class Session {
   bool Open(const std::string& path);
 
   ScriptedPlatform Desk;
+  RecordingStation Station;
   std::unique_ptr<Context> Ctx;
   LogForm Form;
 

@@ -14,6 +14,7 @@
 #include "operating/BoxEditing.h"
 #include "operating/Keys.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "operating/Startup.h"
 #include "platform/FileStore.h"
 #include "platform/Scripted.h"
@@ -159,9 +160,10 @@ const std::vector<ContestChoice>& OfferedChoices() {
 struct NewLogRun {
   Context& Ctx;
   ScriptedPlatform Desk;
+  RecordingStation Station;
   LogForm Form;
 
-  explicit NewLogRun(unsigned char choice) : Ctx(Program().Fresh()), Form(Ctx, Desk.View) {
+  explicit NewLogRun(unsigned char choice) : Ctx(Program().Fresh()), Form(Ctx, Desk.View, Station.View) {
     Desk.Time.Set(kClock);
     const std::vector<ContestChoice>& choices = OfferedChoices();
     QueueContestChoice(Desk.Forms, choices[choice % choices.size()]);
@@ -182,7 +184,8 @@ Outcome OpenLogFile(std::string_view bytes) {
 
   ScriptedPlatform desk;
   desk.Time.Set(kClock);
-  LogForm form(ctx, desk.View);
+  RecordingStation station;
+  LogForm form(ctx, desk.View, station.View);
   desk.Files.Names.push_back(path);
   form.mnuFileOpenLog_Click();
 
@@ -408,8 +411,8 @@ Outcome PressKeys(std::string_view bytes) {
     } else if (b == 0x1f) {
       run.Desk.Time.Advance(61000);
     }
-    requests += run.Form.Requests.size();
-    run.Form.Requests.clear();
+    requests += run.Station.Requests.size();
+    run.Station.Requests.clear();
   }
   outcome.Summary = Titles(run.Desk) + "contest " + std::to_string(run.Ctx.Contest.ContestIndex) + ", requests " +
                     std::to_string(requests) + ", QSOs " +

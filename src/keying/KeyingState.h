@@ -1,11 +1,9 @@
 #pragma once
-// What the keyboard and the CW sender share: the speed, the flags that tell a
-// key handler a message is going out, the Winkeyer's speed source and the
-// switches the text commands and Ctrl-R toggle.
+// What the keyboard and the CW sender share: the speed, the Winkeyer's state
+// and speed source, and the switches the text commands and Ctrl-R toggle.
 //
-// The sender itself (message expansion, timing, the Winkeyer's bytes) reads
-// and sets these as it runs; the key handlers only read SendingCW and change
-// the speed, the speed source and the switches.
+// The sender (keying/Sender.h) reads these as it runs; the flags of a send in
+// progress are the sender's own.
 
 #include <cstdint>
 
@@ -17,14 +15,11 @@ inline constexpr int CWSpeedHighest = 50;
 
 struct KeyingState {
   int16_t CWSpeed = 28;           // WPM; 28 for every log opened afresh
-  bool SendingCW = false;         // a message is going out: the speed keys leave it alone
-  bool AbortFlag = false;         // Esc or Cancel during a send
   bool WinkeyOpen = false;        // the external keyer is open
   bool WinkeyOpening = false;     // its open sequence holds the port
   int16_t WinkeySpeedMode = 1;    // 1 PC speed, 2 the keyer's speed pot, 3 both
   bool ShowTiming = false;        // the timing display of TMSHOW
   bool ClearRITEnabled = false;   // Ctrl-R: a TU after a sent call also clears the RIT
-  bool CallSendArmed = false;     // the message about to go out sends the call (Insert)
 };
 
 // The speed after a change of delta WPM within lower..upper: a step that

@@ -44,7 +44,7 @@ void LogForm::ChangeBand(int step) {
   const RadioState& radio = Ctx.Radio;
   int active = radio.ActiveRadio;
   if (active >= 1 && active <= 2 && radio.RadioRunning[static_cast<std::size_t>(active)])
-    SetRadioFrequency(active, false,
+    Radios.SetRadioFrequency(active, false,
                       radio.LastFreqByBand[static_cast<std::size_t>(active)][static_cast<std::size_t>(s.BandIndex)]);
   if (OneOf(s.ContestIndex, {Naqp, ArrlDx})) RedrawMultipliers();
 }
@@ -69,7 +69,7 @@ void LogForm::ChangeMode() {
   s.BandIndex = static_cast<int16_t>(to);
   TakeBandOnActiveRadio();
   ArrangeForMode();
-  if (active >= 1 && active <= 2 && radio.RadioRunning[static_cast<std::size_t>(active)]) SetRadioMode(active, to);
+  if (active >= 1 && active <= 2 && radio.RadioRunning[static_cast<std::size_t>(active)]) Radios.SetRadioMode(active, to);
   RedrawQSONrLabel();
 }
 
@@ -86,7 +86,7 @@ void LogForm::SwapActiveRadio(int target) {
   ContestState& s = Ctx.Contest;
   int to = target != 0 ? target : radio.ActiveRadio == 2 ? 1 : 2;
   if (to != radio.ActiveRadio) {
-    if (Ctx.Config.F9Activated) SetF9Line(to == 2);
+    if (Ctx.Config.F9Activated) Radios.SetF9Line(to == 2);
     (to == 2 ? radio.RadioBand1 : radio.RadioBand2) = s.BandIndex;
     int16_t kept = to == 2 ? radio.RadioBand2 : radio.RadioBand1;
     if (ValidBand(kept) && s.BandEnabled[static_cast<std::size_t>(BandRow(kept))]) s.BandIndex = kept;

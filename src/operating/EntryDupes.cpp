@@ -99,7 +99,7 @@ bool LogForm::SendDupeMessage() {
   // Insert in the call box comes before the focus step has checked the call.
   if (!DupeCheckDone || call != LastDupeCheckCall) DupeCheck(call);
   if (!IsDupe) return false;
-  SendMessageRow(12);
+  Keyer.SendMessageRow(12);
   ClearEntry();
   return true;
 }

@@ -87,9 +87,9 @@ bool LogForm::FunctionKey(int box, int keyCode, int shift) {
   bool dual = shift & ShiftMask;
   if (int message = MessageOfKey(keyCode); message != 0) {
     if (!cw) {
-      SendMessageKey(message, dual);
+      Keyer.SendMessageKey(message, dual);
     } else if (s.CWActivated && !keying.WinkeyOpening) {
-      SendMessageKey(message, dual);
+      Keyer.SendMessageKey(message, dual);
       if (message == 5 || message == 6) TUCount = 1;
     }
     return true;
@@ -99,11 +99,11 @@ bool LogForm::FunctionKey(int box, int keyCode, int shift) {
       if (cw) OpenKeyboardCW(box);
       return true;
     case KeyF8:
-      if (cw) SendCW(InData[CallBox].Text);
+      if (cw) Keyer.SendCW(InData[CallBox].Text);
       return true;
     case KeyF9:
       if (shift & (CtrlMask | AltMask)) {
-        if (Ctx.Radio.RadioRunning[1] && Ctx.Radio.RadioRunning[2]) SwapRadioFrequencies();
+        if (Ctx.Radio.RadioRunning[1] && Ctx.Radio.RadioRunning[2]) Radios.SwapRadioFrequencies();
         return true;
       }
       SwapActiveRadio(0);
@@ -162,11 +162,10 @@ bool LogForm::CommandKey(int keyCode, int shift) {
 }
 
 bool LogForm::PlainKey(int box, int keyCode, int shift) {
-  const KeyingState& keying = Ctx.Keying;
   switch (keyCode) {
     case KeyPageUp:
     case KeyPageDown:
-      if (IsCWBand(Ctx.Contest.BandIndex) && Ctx.Config.CWActivated && !keying.SendingCW) {
+      if (IsCWBand(Ctx.Contest.BandIndex) && Ctx.Config.CWActivated && !Keyer.SendingCW) {
         int step = static_cast<int>(Val(Ctx.Config.CWSpeedIncrement));
         SetCWSpeed(keyCode == KeyPageUp ? step : -step);
       }
@@ -209,12 +208,13 @@ void LogForm::InsertKey(int shift) {
   const std::string& exchange = InData[ExchangeBox].Text;
   if (!IsCWBand(Ctx.Contest.BandIndex)) {
     if (call.ends_with("/P") || call.ends_with("/M")) call.resize(call.size() - 2);
-    SendCallAndExchange(call);
+    Keyer.SendCallAndExchange(call, {CheckCall.Value, CheckExchange.Value, CheckGreeting.Value, CheckThanks.Value,
+                                     Ctx.Config.DVKCallExchMode});
   } else {
     if (SendDupeMessage()) return;
     bool first = exchange.empty() || (exchange[0] == ' ' && !(shift & (ShiftMask | AltMask)));
-    Ctx.Keying.CallSendArmed = true;
-    SendMessageRow(first ? 10 : 11);
+    Keyer.CallSendArmed = true;
+    Keyer.SendMessageRow(first ? 10 : 11);
   }
   SetFocus(InData[CallBox].Text.empty() && exchange.empty() ? CallBox : ExchangeBox);
 }
@@ -252,7 +252,7 @@ void LogForm::SpeedOrVoiceModeKey(char ch) {
     StepDVKCallExchMode();
     return;
   }
-  if (Ctx.Keying.SendingCW) return;
+  if (Keyer.SendingCW) return;
   int step = static_cast<int>(Val(Ctx.Config.CWSpeedIncrement));
   SetCWSpeed(ch == '+' ? step : -step);
 }
@@ -295,7 +295,9 @@ void LogForm::StepWinkeySpeedMode() {
   KeyingState& keying = Ctx.Keying;
   if (!keying.WinkeyOpen) return;
   keying.WinkeySpeedMode = static_cast<int16_t>(keying.WinkeySpeedMode % 3 + 1);
-  SetWinkeySpeedSource();
+  lblCWWK.Visible = lblSpeedWK.Visible = true;
+  ColourSpeedLabels();
+  Keyer.SetWinkeySpeedSource(keying.WinkeySpeedMode);
 }
 
 // Both boxes emptied and the entry's labels reset, as after a QSO; the
@@ -366,7 +368,7 @@ void LogForm::KeyboardCWText_KeyPress(char keyAscii) {
   }
   KeyboardCWText.Text += ch;
   KeyboardCWText.SelStart = static_cast<int>(KeyboardCWText.Text.size());
-  SendCW(std::string(1, ch));
+  Keyer.SendCW(std::string(1, ch));
 }
 
 }  // namespace tarnix

@@ -72,7 +72,7 @@ void LogForm::RunTextCommand(int command) {
       RepeatLastQso();
       return;
     case FrequencyCommand:
-      if (running) SetRadioFrequency(active, true, static_cast<float>(Val(text)));
+      if (running) Radios.SetRadioFrequency(active, true, static_cast<float>(Val(text)));
       break;
     case TimingCommand:
       s.TimingMethod = TimingMethodOf(text[2]);
@@ -91,7 +91,7 @@ void LogForm::RunTextCommand(int command) {
       RecallRadio();
       return;
     case PowerCommand:
-      if (running) SendPowerCommand("110");
+      if (running) Radios.SendPowerCommand(active, "110");
       break;
     case TUCommand:
       TUInterval = static_cast<int16_t>(text[2] == '0' ? 1 : text[2] - '0');
@@ -146,7 +146,7 @@ void LogForm::StoreRadio() {
     StoRadio = static_cast<int16_t>(active);
     StoBand = Ctx.Contest.BandIndex;
     StoFreq = radio.LastFreqByBand[static_cast<std::size_t>(active)][static_cast<std::size_t>(StoBand)];
-    ReadRadioMode(active);
+    Radios.ReadRadioMode(active);
   }
   NeedPfxLabel.Caption.clear();
   InData[CallBox].Text.clear();
@@ -160,8 +160,8 @@ void LogForm::RecallRadio() {
     SwapActiveRadio(StoRadio);
     if (OneOf(Ctx.Contest.ContestIndex, {Naqp, ArrlDx})) RedrawMultipliers();
     if (Ctx.Radio.RadioRunning[static_cast<std::size_t>(StoRadio)]) {
-      SetRadioFrequency(StoRadio, false, StoFreq);
-      SetRadioMode(StoRadio, StoBand);
+      Radios.SetRadioFrequency(StoRadio, false, StoFreq);
+      Radios.SetRadioMode(StoRadio, StoBand);
     }
   }
   ClearTextCommand();

@@ -363,7 +363,7 @@ bool LogForm::mnuFileExit_Click() {
     return false;
   }
   WriteSettings();
-  CloseWinkey();
+  Keyer.CloseWinkey();
   return true;
 }
 

@@ -9,8 +9,12 @@
 
 namespace tarnix {
 
-LogForm::LogForm(Context& ctx, Platform& platform)
-    : Timer1(platform.Timers.CreateTimer([this] { Timer1_Timer(); })), Ctx(ctx), Desk(platform) {
+LogForm::LogForm(Context& ctx, Platform& platform, Station& station)
+    : Timer1(platform.Timers.CreateTimer([this] { Timer1_Timer(); })),
+      Ctx(ctx),
+      Desk(platform),
+      Keyer(station.Keyer),
+      Radios(station.Radios) {
   Timer1->SetInterval(1000);
   Timer1->SetEnabled(true);
   Form_Load();

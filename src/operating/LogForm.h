@@ -31,6 +31,7 @@
 #include "core/QsoRecord.h"
 #include "operating/Context.h"
 #include "operating/Keys.h"
+#include "operating/Station.h"
 #include "platform/Controls.h"
 #include "platform/Platform.h"
 #include "rules/Parsers.h"
@@ -46,7 +47,7 @@ inline constexpr int KeyboardCWFocus = 2;
 
 class LogForm {
  public:
-  LogForm(Context& ctx, Platform& platform);
+  LogForm(Context& ctx, Platform& platform, Station& station);
 
   // ---- What the form shows ----
   std::array<TextBox, 2> InData;
@@ -103,7 +104,6 @@ class LogForm {
   bool NewMult = false;
   int16_t NewMultRow = 0;
   bool ApostropheLogged = false;
-  bool LastMsgCallCorrect = false;
   int16_t TUInterval = 1, TUCount = 1;
   bool KeepMatchLabels = false;
   std::string CurrentPrefix;
@@ -120,11 +120,6 @@ class LogForm {
   int16_t StoRadio = 0;                  // the STO memory; radio 0: nothing stored
   float StoFreq = 0;
   int16_t StoBand = 0;
-  // What the form asked of the senders, the keyer and the radios, one line
-  // each, oldest first ("SendMessageKey 5", "SendCW K3ZZZ", "SetRadioFrequency
-  // 1 14025"), the last hundred: those subsystems take over the requests as
-  // they are written.
-  std::vector<std::string> Requests;
 
   // ---- Exchange parser state (EntryParsers.cpp) ----
   // The received fields of the last parse, read by the logging step. A
@@ -143,8 +138,6 @@ class LogForm {
   // Insert on CW with DupeSendMsgFlag set: a dupe gets message row 12 instead
   // of the call and the entry is cleared. False when Insert is not for this.
   bool SendDupeMessage();
-  // Sends row `row` of the CW message table.
-  void SendMessageRow(int row);
 
   // ---- What the form does ----
   void Form_Load();
@@ -286,17 +279,6 @@ class LogForm {
   void RecallRadio();
 
   // Hooks for rules still to come (EntryHooks.cpp).
-  void NoteRequest(std::string request);
-  void SendMessageKey(int message, bool dual);
-  void SendCW(const std::string& text);
-  void SendCallAndExchange(const std::string& call);
-  void SetRadioFrequency(int radio, bool changeBand, float kHz);
-  void SetRadioMode(int radio, int bandIndex);
-  void ReadRadioMode(int radio);
-  void SwapRadioFrequencies();
-  void SendPowerCommand(const std::string& parameter);
-  void SetF9Line(bool on);
-  void SetWinkeySpeedSource();
   void DupeCheck(const std::string& call);
   void ShowDupe();
   void RunExchangeParser();
@@ -320,7 +302,6 @@ class LogForm {
   void ClearCallAssist();
   bool EditQso(int n);
   void WriteSettings();
-  void CloseWinkey();
 
   // ---- Scoring state (EntryScoring.cpp) ----
   // The points and multiplier steps of the QSO being logged (step 12), and
@@ -343,6 +324,8 @@ class LogForm {
 
   Context& Ctx;
   Platform& Desk;
+  Sender& Keyer;
+  RadioControl& Radios;
 };
 
 }  // namespace tarnix

@@ -50,7 +50,7 @@ void LogForm::ProcessEntry(int box, int shift) {
   }
 
   if (Trim(InData[CallBox].Text).empty()) {
-    if (Ctx.Config.SendF1Enabled && !(shift & ShiftMask)) SendMessageKey(1, false);
+    if (Ctx.Config.SendF1Enabled && !(shift & ShiftMask)) Keyer.SendMessageKey(1, false);
     SetFocus(CallBox);
     return;
   }
@@ -292,18 +292,18 @@ bool LogForm::WriteEntry() {
 }
 
 void LogForm::SendFollowUp(int shift) {
-  if ((shift & ShiftMask) || (shift & CtrlMask) || !LastMsgCallCorrect) return;
+  if ((shift & ShiftMask) || (shift & CtrlMask) || !Keyer.LastMsgCallCorrect) return;
   if (ApostropheLogged) {
-    if (Ctx.Config.LogandSendF6Enabled) SendMessageKey(6, false);
+    if (Ctx.Config.LogandSendF6Enabled) Keyer.SendMessageKey(6, false);
     return;
   }
   if (!Ctx.Config.LogandSendF5Enabled) return;
   if (TUInterval < 1 || TUInterval > 9 || TUCount < 1 || TUCount > 9) TUInterval = TUCount = 1;
   if (TUCount < TUInterval) {
-    SendMessageKey(6, false);
+    Keyer.SendMessageKey(6, false);
     ++TUCount;
   } else {
-    SendMessageKey(5, false);
+    Keyer.SendMessageKey(5, false);
     TUCount = 1;
   }
 }

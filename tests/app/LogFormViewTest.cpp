@@ -23,6 +23,7 @@
 #include "core/ChCoForm.h"
 #include "operating/Context.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "platform/Scripted.h"
 
 namespace tarnix {
@@ -53,7 +54,8 @@ class LogFormViewTest : public ::testing::Test {
   QTemporaryDir home;
   std::unique_ptr<Context> ctx = MakeContext(home.path().toStdString() + "/");
   ScriptedPlatform desk;
-  LogForm model{*ctx, desk.View};
+  RecordingStation station;
+  LogForm model{*ctx, desk.View, station.View};
   LogFormView view{model};
   bool active = false;
 };
@@ -261,7 +263,7 @@ TEST_F(LogFormViewTest, KeyboardCommandsThroughKeyEvents) {
   QTest::keyClick(&keyboardCW, Qt::Key_CapsLock);
   EXPECT_FALSE(keyboardCW.isVisible());
   EXPECT_EQ(QApplication::focusWidget(), &Box(ExchangeBox));
-  EXPECT_EQ(model.Requests,
+  EXPECT_EQ(station.Requests,
             (std::vector<std::string>{"SendMessageRow 10", "SendMessageKey 1", "SendCW T", "SendCW U"}));
 
   // F9 makes radio 2 active: the label turns red.

@@ -19,6 +19,7 @@
 #include "config/SettingsFile.h"
 #include "core/ChCoForm.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
 #include "TestFiles.h"
@@ -35,7 +36,8 @@ struct Station {
   TempFolder Home;
   std::unique_ptr<Context> Ctx = MakeContext(Home.Path);
   ScriptedPlatform Desk;
-  LogForm Form{*Ctx, Desk.View};
+  RecordingStation Radios;
+  LogForm Form{*Ctx, Desk.View, Radios.View};
 
   Station() { Desk.Time.Set({2026, 11, 22, 12, 0, 0}); }
 

@@ -31,7 +31,7 @@ TEST_F(KeyboardEntryTest, TypedCharactersUpperCasedQuotesDroppedBracketsUnmapped
   EXPECT_EQ(Boxes(), "K3ZZZ_|");
   // "]" and "\" reach key-down as code 39 without a modifier, which no
   // handler takes when nothing is mapped.
-  EXPECT_TRUE(form.Requests.empty());
+  EXPECT_TRUE(station.Requests.empty());
   EXPECT_FALSE(form.BracketPressed || form.BackslashPressed);
 }
 
@@ -83,7 +83,7 @@ TEST_F(KeyboardEntryTest, RemappedKeysBecomeInsertOrF9) {
     Type("W1AW");
     if (std::string(row.key).size() == 1) Type(row.key);
     else Key(row.key);
-    EXPECT_EQ(form.Requests, row.sent) << row.name;
+    EXPECT_EQ(station.Requests, row.sent) << row.name;
     EXPECT_EQ(ctx->Radio.ActiveRadio, row.radio) << row.name;
     EXPECT_EQ(form.InData[CallBox].Text, "W1AW") << row.name;
   }
@@ -96,7 +96,7 @@ TEST_F(KeyboardEntryTest, RemappedKeysBecomeInsertOrF9) {
   Key("Alt+M");
   Key("Alt+Up");
   EXPECT_EQ(Boxes(), "DL1ABC_|");
-  EXPECT_TRUE(form.Requests.empty());
+  EXPECT_TRUE(station.Requests.empty());
 }
 
 TEST_F(KeyboardEntryTest, PlusMinusAndPageKeysChangeTheCWSpeed) {
@@ -121,11 +121,11 @@ TEST_F(KeyboardEntryTest, PlusMinusAndPageKeysChangeTheCWSpeed) {
   EXPECT_EQ(ctx->Keying.CWSpeed, 18);
 
   // A message going out keeps its speed; without CW the page keys do nothing.
-  ctx->Keying.SendingCW = true;
+  station.SendingCW = true;
   Type("+");
   Key("PageUp");
   EXPECT_EQ(ctx->Keying.CWSpeed, 18);
-  ctx->Keying.SendingCW = false;
+  station.SendingCW = false;
   ctx->Config.CWActivated = false;
   Key("PageUp");
   EXPECT_EQ(ctx->Keying.CWSpeed, 18);
@@ -172,7 +172,7 @@ TEST_F(KeyboardEntryTest, FunctionKeysSendTheirMessages) {
   Type("K3ZZZ");
   Key("F8");
   Key("CapsLock");
-  EXPECT_TRUE(form.Requests.empty());  // F8 and Caps Lock are CW's
+  EXPECT_TRUE(station.Requests.empty());  // F8 and Caps Lock are CW's
   EXPECT_EQ(form.FocusedBox, CallBox);
 
   NewLog(Cqww);  // CW: with CWActivated, and F5 and F6 restart the TU rotation
@@ -193,7 +193,7 @@ TEST_F(KeyboardEntryTest, FunctionKeysSendTheirMessages) {
   ctx->Keying.WinkeyOpening = false;
   ctx->Config.CWActivated = false;
   Key("F2");
-  EXPECT_TRUE(form.Requests.empty());
+  EXPECT_TRUE(station.Requests.empty());
   EXPECT_EQ(Boxes(), "K3Z.Z_|");
 }
 
@@ -393,7 +393,7 @@ TEST_F(KeyboardEntryTest, CtrlLeftAndRightChangeTheModeInMixedLogs) {
 
 TEST_F(KeyboardEntryTest, EnterAndApostropheLogAndAskForTheirMessages) {
   NewLog(Generic);
-  form.LastMsgCallCorrect = true;
+  station.LastMsgCallCorrect = true;
   ctx->Config.LogandSendF5Enabled = true;
   Log("K3ZZZ", "5");
   EXPECT_EQ(TakeRequests(), Lines{"SendMessageKey 5"});
@@ -435,7 +435,7 @@ TEST_F(KeyboardEntryTest, InsertSendsTheCallWithTheRightExchangeMessage) {
     EXPECT_EQ(TakeRequests(), Lines{row.sent}) << row.name;
     EXPECT_EQ(Boxes(), row.boxes) << row.name;
   }
-  EXPECT_TRUE(ctx->Keying.CallSendArmed);
+  EXPECT_TRUE(station.CallSendArmed);
 
   NewLog(Generic, true);  // phone: the voice keyer, without a portable mark
   ctx->Config.DVKSendCallEnabled = true;
@@ -458,7 +458,7 @@ TEST_F(KeyboardEntryTest, KeysWithoutALogDoNothing) {
   form.SetFocus(CallBox);
   for (const char* key : {"F1", "Alt+M", "Ctrl+Down", "F9", "Insert", "Enter"}) Key(key);
   form.InData_KeyPress(CallBox, 'k');
-  EXPECT_TRUE(form.Requests.empty());
+  EXPECT_TRUE(station.Requests.empty());
   EXPECT_EQ(form.InData[CallBox].Text, "");
   EXPECT_EQ(ctx->Radio.ActiveRadio, 1);
 }

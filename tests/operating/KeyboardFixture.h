@@ -36,7 +36,7 @@ class KeyboardFixture : public StartedFormTest {
     s.SendF1Enabled = s.LogandSendF5Enabled = s.LogandSendF6Enabled = false;
     s.Key1IsMapped = s.Key2IsMapped = false;
     desk.Boxes.Shown.clear();
-    form.Requests.clear();
+    station.Requests.clear();
   }
   void Key(const char* name) {
     std::optional<NamedKey> key = KeyByName(name);
@@ -66,8 +66,8 @@ class KeyboardFixture : public StartedFormTest {
     return text;
   }
   Lines TakeRequests() {
-    Lines taken = form.Requests;
-    form.Requests.clear();
+    Lines taken = station.Requests;
+    station.Requests.clear();
     return taken;
   }
 };

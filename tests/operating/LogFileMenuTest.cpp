@@ -9,6 +9,7 @@
 #include "core/ChCoForm.h"
 #include "core/LogFile.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "platform/Scripted.h"
 #include "TestFiles.h"
 
@@ -44,7 +45,8 @@ class LogFileMenuTest : public ::testing::Test {
   TempFolder home;
   std::unique_ptr<Context> ctx = MakeContext(home.Path);
   ScriptedPlatform desk;
-  LogForm form{*ctx, desk.View};
+  RecordingStation station;
+  LogForm form{*ctx, desk.View, station.View};
 
   void SetUp() override { desk.Time.Set({2026, 11, 22, 12, 0, 0}); }
   void NewLog(int contest) {

@@ -6,6 +6,7 @@
 
 #include "core/ChCoForm.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "platform/Scripted.h"
 
 namespace tarnix {
@@ -16,7 +17,8 @@ class ProcessEntryTest : public ::testing::Test {
   TempFolder home;
   std::unique_ptr<Context> ctx = MakeContext(home.Path);
   ScriptedPlatform desk;
-  LogForm form{*ctx, desk.View};
+  RecordingStation station;
+  LogForm form{*ctx, desk.View, station.View};
 
   void NewLog(int contest) {
     QueueContestChoice(desk.Forms, contest);

@@ -4,6 +4,7 @@
 
 #include "core/ChCoForm.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "platform/Scripted.h"
 
 namespace tarnix {
@@ -13,7 +14,8 @@ struct ReplayFixture : ::testing::Test {
   ScriptedPlatform Desk;
   TempFolder Home;
   std::unique_ptr<Context> Ctx = MakeContext(Home.Path);
-  LogForm Form{*Ctx, Desk.View};
+  RecordingStation Station;
+  LogForm Form{*Ctx, Desk.View, Station.View};
 
   void SetUp() override {
     Desk.Time.Set({2026, 11, 22, 23, 50, 0});

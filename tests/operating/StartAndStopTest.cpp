@@ -14,6 +14,7 @@
 #include "core/ChCoForm.h"
 #include "operating/AboutTarnix.h"
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
 #include "TestFiles.h"
@@ -77,7 +78,8 @@ class StartAndStopTest : public ::testing::Test {
   TempFolder home;
   std::unique_ptr<Context> ctx = MakeContext(home.Path);
   ScriptedPlatform desk;
-  std::unique_ptr<LogForm> form = std::make_unique<LogForm>(*ctx, desk.View);
+  RecordingStation station;
+  std::unique_ptr<LogForm> form = std::make_unique<LogForm>(*ctx, desk.View, station.View);
 
   void Log(LogForm& f, const std::string& call) {
     f.InData_Change(CallBox, call, static_cast<int>(call.size()));
@@ -140,7 +142,8 @@ void CrashWithAnUnnamedLog(const std::string& appPath) {
     ScriptedPlatform desk;
     desk.Time.Set({2026, 11, 22, 12, 0, 0});
     auto ctx = MakeContext(appPath);
-    LogForm form(*ctx, desk.View);
+    RecordingStation station;
+    LogForm form(*ctx, desk.View, station.View);
     QueueContestChoice(desk.Forms, Generic);
     form.mnuFileNewLog_Click();
     for (const char* call : {"K3ZZZ", "W1AW", "N5DX"}) {

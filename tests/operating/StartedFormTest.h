@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "operating/LogForm.h"
+#include "operating/RecordingStation.h"
 #include "operating/Startup.h"
 #include "platform/Scripted.h"
 
@@ -18,7 +19,8 @@ class StartedFormTest : public ::testing::Test {
   std::unique_ptr<Context> ctx = MakeContext(home.Path);
   ScriptedPlatform desk;
   bool started = StartProgram(*ctx, desk.View);
-  LogForm form{*ctx, desk.View};
+  RecordingStation station;
+  LogForm form{*ctx, desk.View, station.View};
 };
 
 }  // namespace tarnix

@@ -56,7 +56,7 @@ TEST_F(TextCommandTest, AFrequencyTunesThePolledRadio) {
   NewLog(Generic);
   for (const char* text : {"14025", "1800", "7150.5", "147999", "18100", "10125"}) Command(text);
   EXPECT_EQ(ctx->Log.QSOCount, 1);
-  EXPECT_TRUE(form.Requests.empty());  // no radio is polled
+  EXPECT_TRUE(station.Requests.empty());  // no radio is polled
   ctx->Radio.RadioRunning[1] = true;
   for (const char* text : {"14025", "7150.5", "21300"}) Command(text);
   EXPECT_EQ(TakeRequests(), (Lines{"SetRadioFrequency 1 band 14025", "SetRadioFrequency 1 band 7150.5",
@@ -68,7 +68,7 @@ TEST_F(TextCommandTest, AFrequencyTunesThePolledRadio) {
   for (const char* text : {"1799", "148000", "5000", "18150", "14025X"}) Command(text);
   EXPECT_EQ(Call(1) + " " + Call(2) + " " + Call(3) + " " + Call(4) + " " + Call(5),
             "1799 148000 5000 18150 14025X");
-  EXPECT_TRUE(form.Requests.empty());
+  EXPECT_TRUE(station.Requests.empty());
 }
 
 TEST_F(TextCommandTest, TimingMethodAndItsDisplay) {
@@ -131,9 +131,9 @@ TEST_F(TextCommandTest, TuSetsTheFollowUpRotation) {
   // TU3: three QSOs end in F6, F6, F5.
   Command("TU3");
   EXPECT_EQ(form.TUInterval, 3);
-  form.LastMsgCallCorrect = true;
+  station.LastMsgCallCorrect = true;
   ctx->Config.LogandSendF5Enabled = true;
-  form.Requests.clear();
+  station.Requests.clear();
   for (const char* call : {"K3ZZZ", "W1AW", "N5DX", "VE3EJ"}) Log(call, "599");
   EXPECT_EQ(TakeRequests(), (Lines{"SendMessageKey 6", "SendMessageKey 6", "SendMessageKey 5", "SendMessageKey 6"}));
 }
@@ -143,7 +143,7 @@ TEST_F(TextCommandTest, StoreRecallAndPower) {
   form.NeedPfxLabel.Caption = "Country Ck";
   for (const char* text : {"STO", "RCL", "PWR"}) Command(text);  // no radio polled
   EXPECT_EQ(form.StoRadio, 0);
-  EXPECT_TRUE(form.Requests.empty());
+  EXPECT_TRUE(station.Requests.empty());
   EXPECT_EQ(form.NeedPfxLabel.Caption + Boxes(), "_|");
   EXPECT_EQ(ctx->Log.QSOCount, 1);
 
