@@ -29,11 +29,6 @@ LogFormView::LogFormView(LogForm& model, QWidget* parent) : QMainWindow(parent),
 
 LogFormView::~LogFormView() { Model.Changed = nullptr; }
 
-void LogFormView::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::WindowStateChange) Forward([this] { Model.Form_Resize(isMinimized()); });
-  QMainWindow::changeEvent(event);
-}
-
 QAction* LogFormView::AddAction(QMenu* menu, const char* name, const MenuItem& item, void (LogForm::*click)()) {
   QAction* action = menu->addAction(QString());
   action->setObjectName(QString::fromLatin1(name));

@@ -38,8 +38,6 @@ class LogFormView : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
   // The frame's close is File > Exit: it closes only when the model agrees.
   void closeEvent(QCloseEvent* event) override;
-  // Minimised and restored: the model hides and shows the view windows.
-  void changeEvent(QEvent* event) override;
 
  private:
   void BuildMenus();

@@ -164,8 +164,9 @@ int Dump(const Args& args, std::ostream& out, std::ostream& err) {
   Session session(out);
   if (!session.Started || !session.Open(Absolute(args[0]))) return 1;
   Context& ctx = *session.Ctx;
-  std::string code = ctx.SavedHeader.HdrContest.Str();
-  out << "HEADER\t" << code.substr(0, 3) << '\t' << code.substr(3, 2) << '\t' << ctx.SavedHeader.HdrQth.Str() << '\t'
+  const LogHeader& header = session.Form.Document.SavedHeader;
+  std::string code = header.HdrContest.Str();
+  out << "HEADER\t" << code.substr(0, 3) << '\t' << code.substr(3, 2) << '\t' << header.HdrQth.Str() << '\t'
       << (ctx.Log.WideLog ? 1 : 0) << '\n';
   PrintRecords(out, ctx);
   const LogStore& log = ctx.Log;

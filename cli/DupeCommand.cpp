@@ -60,7 +60,7 @@ int Dupe(const std::vector<std::string>& args, std::ostream& out, std::ostream& 
   for (char c : positional[1]) form.InData_KeyPress(CallBox, c);
   form.SetFocus(ExchangeBox);
 
-  const DupeResult& r = form.Dupes;
+  const DupeResult& r = form.DupeScan();
   out << "FoundInLog\t" << r.FoundInLog << "\nFoundOnBand\t" << r.FoundOnBand << "\nIsDupe\t" << r.IsDupe
       << "\nDupeQSO\t" << r.DupeQSO << "\nPortableMatch\t" << r.PortableMatch << "\nDUPELINE\t"
       << (form.lblDupe.Visible ? form.lblDupe.Caption : std::string()) << '\n';

@@ -59,9 +59,6 @@ class StartedProgram {
     w.Radio = s.Radio;
     w.Keying = s.Keying;
     w.UserClipboard = s.UserClipboard;
-    w.LogFileName.clear();
-    w.SavedHeader = s.SavedHeader;
-    w.DialogCancelled = w.ReloadFlag = false;
     w.Log.LogState = LogStateKind::None;
     ResetLog(w.Log);
     ResetCounters(w.Counters);
@@ -204,7 +201,7 @@ Outcome OpenLogFile(std::string_view bytes) {
     form.InData_Change(CallBox, call, static_cast<int>(call.size()));
     form.SetFocus(ExchangeBox);
     outcome.Summary += Titles(desk, shown);
-    outcome.Summary += "dupe check: " + std::string(form.IsDupe ? "dupe" : form.FoundInLog ? "in log" : "new") + "\n";
+    outcome.Summary += "dupe check: " + std::string(form.DupeScan().IsDupe ? "dupe" : form.DupeScan().FoundInLog ? "in log" : "new") + "\n";
   }
   std::filesystem::remove(path);
   std::filesystem::remove(keptPath);
@@ -326,7 +323,7 @@ Outcome EnterExchanges(std::string_view bytes) {
   Context& ctx = run.Ctx;
   ScriptedPlatform& desk = run.Desk;
   LogForm& form = run.Form;
-  auto header = EncodeHeader(ctx.SavedHeader);
+  auto header = EncodeHeader(form.Document.SavedHeader);
   outcome.Summary = "contest " + std::to_string(ctx.Contest.ContestIndex) + ", header \"" +
                     std::string(header.begin() + 20, header.end()) + "\"\n";
   if (!run.Opened()) {
@@ -367,14 +364,14 @@ constexpr MsgAnswer kAnswers[] = {MsgAnswer::Yes,   MsgAnswer::No,    MsgAnswer:
 // Where the log on disk and the log in memory first differ: the file must be
 // the header, and from the first QSO on the header's slot and QSOs 1 to
 // QSOCount - 1, each as memory encodes it.
-std::string DiskAgainstMemory(const Context& ctx) {
+std::string DiskAgainstMemory(const Context& ctx, const LogDocument& document) {
   std::string bytes;
-  DiskFileStore().ReadAll(ctx.LogFileName, bytes);  // a missing file reads as no bytes, which the size check tells
+  DiskFileStore().ReadAll(document.FileName, bytes);  // a missing file reads as no bytes, which the size check tells
   const int qsos = ctx.Log.QSOCount - 1;
   const std::size_t want = qsos == 0 ? LogHeaderSize : static_cast<std::size_t>(qsos + 1) * QsoRecordSize;
   if (bytes.size() != want)
     return "the log file holds " + std::to_string(bytes.size()) + " bytes for " + std::to_string(qsos) + " QSOs";
-  auto header = EncodeHeader(ctx.SavedHeader);
+  auto header = EncodeHeader(document.SavedHeader);
   if (bytes.compare(0, header.size(), header.data(), header.size()) != 0) return "the header on disk differs";
   for (int n = 1; n <= qsos; ++n) {
     auto record = EncodeRecord(ctx.Log.LogRecords.At(n));
@@ -417,7 +414,7 @@ Outcome PressKeys(std::string_view bytes) {
   outcome.Summary = Titles(run.Desk) + "contest " + std::to_string(run.Ctx.Contest.ContestIndex) + ", requests " +
                     std::to_string(requests) + ", QSOs " +
                     std::to_string(run.Ctx.Log.QSOCount - 1) + "\n";
-  outcome.Fault = DiskAgainstMemory(run.Ctx);
+  outcome.Fault = DiskAgainstMemory(run.Ctx, run.Form.Document);
   return outcome;
 }
 

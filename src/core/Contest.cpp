@@ -9,21 +9,35 @@
 namespace tarnix {
 namespace {
 
-const std::array<ContestInfo, ContestCount + 1> kContests = {{
-    {"", "", ""},
-    {"ARRL DX Contest", "ARL", "ARRL DX"},
-    {"CQP -- NCCC California QSO Party ", "CQP", "CQP"},
-    {"CQWW DX Contest", "WW ", "CQWW DX"},
-    {"Sprint -- NCJ NA Sprint", "SP ", "Sprint "},
-    {"SS -- ARRL Sweepstakes", "SS9", "SS "},
-    {"WPX -- CQ Prefix Contest", "WPX", "WPX"},
-    {"AA -- JARL All Asian Contest", "AA ", "AA "},
-    {"PAQP -- Pennsylvania QSO Party", "PAQ", "PAQP"},
-    {"NAQP -- North American QSO Party", "NA ", "NAQP"},
-    {"ARRL 10 Meter Contest", "TEN", "ARRL 10m"},
-    {"NEQP -- New England QSO Party", "NEQ", "NEQP"},
-    {"[GENERIC] -- Generic Logging", "GEN", "Generic Log"},
-    {"CWO -- CW Ops CW Open", "CWO", "CWO"},
+constexpr std::array<ContestInfo, ContestCount + 1> kContests = {{
+    {},
+    {.ListText = "ARRL DX Contest", .HeaderCode = "ARL", .TitleName = "ARRL DX",
+     .SpaceToggles = true, .BlankInCall = true, .RepeatCommand = true,
+     .MultsFollowBand = true, .MultsFollowCountry = Stations::UsVe},
+    {.ListText = "CQP -- NCCC California QSO Party ", .HeaderCode = "CQP", .TitleName = "CQP",
+     .MixedMode = true, .RefillsCountyLine = true},
+    {.ListText = "CQWW DX Contest", .HeaderCode = "WW ", .TitleName = "CQWW DX",
+     .RepeatCommand = true, .ZoneFromCall = true, .TakesWpxPrefix = true,
+     .MultsFollowCountry = Stations::All},
+    {.ListText = "Sprint -- NCJ NA Sprint", .HeaderCode = "SP ", .TitleName = "Sprint "},
+    {.ListText = "SS -- ARRL Sweepstakes", .HeaderCode = "SS9", .TitleName = "SS ",
+     .OffTimeLimit = 30, .DupeOnAnyBand = true},
+    {.ListText = "WPX -- CQ Prefix Contest", .HeaderCode = "WPX", .TitleName = "WPX",
+     .OffTimeLimit = 60, .SpaceToggles = true, .BlankInCall = true, .TakesWpxPrefix = true},
+    {.ListText = "AA -- JARL All Asian Contest", .HeaderCode = "AA ", .TitleName = "AA ",
+     .SpaceToggles = true, .BlankInCall = true, .AgeExchange = true, .TakesWpxPrefix = true},
+    {.ListText = "PAQP -- Pennsylvania QSO Party", .HeaderCode = "PAQ", .TitleName = "PAQP",
+     .MixedMode = true},
+    {.ListText = "NAQP -- North American QSO Party", .HeaderCode = "NA ", .TitleName = "NAQP",
+     .OffTimeLimit = 30, .RepeatCommand = true, .MultsFollowBand = true},
+    {.ListText = "ARRL 10 Meter Contest", .HeaderCode = "TEN", .TitleName = "ARRL 10m",
+     .MixedMode = true, .SpaceToggles = true, .BlankInCall = true, .StatsFollowRadio = true},
+    {.ListText = "NEQP -- New England QSO Party", .HeaderCode = "NEQ", .TitleName = "NEQP",
+     .MixedMode = true, .SpaceToggles = true, .BlankInCall = true},
+    {.ListText = "[GENERIC] -- Generic Logging", .HeaderCode = "GEN", .TitleName = "Generic Log",
+     .MixedMode = true, .NotesExchange = true, .MultsFollowCountry = Stations::All},
+    {.ListText = "CWO -- CW Ops CW Open", .HeaderCode = "CWO", .TitleName = "CWO",
+     .CWOnly = true, .BlankInCall = true},
 }};
 
 }  // namespace
@@ -31,6 +45,11 @@ const std::array<ContestInfo, ContestCount + 1> kContests = {{
 const ContestInfo& ContestTable(int contestIndex) {
   if (contestIndex < 1 || contestIndex > ContestCount) throw std::out_of_range("Subscript out of range");
   return kContests[static_cast<std::size_t>(contestIndex)];
+}
+
+const ContestInfo& TraitsOf(int contestIndex) {
+  bool known = contestIndex >= 1 && contestIndex <= ContestCount;
+  return kContests[known ? static_cast<std::size_t>(contestIndex) : 0];
 }
 
 int ContestFromHeaderCode(std::string_view code) {
@@ -44,12 +63,17 @@ int ContestFromHeaderCode(std::string_view code) {
   return 0;
 }
 
-bool IsMixedModeContest(int c) { return OneOf(c, {Cqp, Paqp, Ten, Neqp, Generic}); }
+bool IsMixedModeContest(int c) { return TraitsOf(c).MixedMode; }
 
-int16_t OffTimeLimitFor(int c) {
-  if (c == Sweepstakes || c == Naqp) return 30;
-  if (c == Wpx) return 60;
-  return 15;
+int16_t OffTimeLimitFor(int c) { return TraitsOf(c).OffTimeLimit; }
+
+void SetModesOfNewLog(ContestState& s) {
+  const ContestInfo& traits = TraitsOf(s.ContestIndex);
+  if (traits.MixedMode) s.ModeEnabled[1] = s.ModeEnabled[2] = true;
+  if (traits.CWOnly) {
+    s.ModeEnabled[1] = false;
+    s.ModeEnabled[2] = true;
+  }
 }
 
 std::string SCPSelectionFor(const ContestState& s) {

@@ -11,7 +11,6 @@
 #include "config/StartupData.h"
 #include "config/UserInfo.h"
 #include "core/Contest.h"
-#include "core/LogFile.h"
 #include "core/LogStore.h"
 #include "keying/KeyingState.h"
 #include "radio/RadioState.h"
@@ -34,15 +33,7 @@ struct Context {
   PortableTable Portables;     // the log's calls with "/", for the dupe check
   RadioState Radio;
   KeyingState Keying;
-
-  std::string LogFileName;     // full path of the open log
   UserInfoClipboard UserClipboard;  // the profile form's copy, for the whole run
-  LogHeader SavedHeader;       // the open log's header, written again by Kill All
-  bool DialogCancelled = false;
-  bool ReloadFlag = false;     // re-read the current log without asking
-
-  // The temporary file every new log starts in.
-  std::string TempLogFileName() const { return AppPath + "!temp%!!.tnb"; }
 };
 
 // A Context lives on the heap: the log store's tables are large.

@@ -46,7 +46,7 @@ void LogForm::ChangeBand(int step) {
   if (active >= 1 && active <= 2 && radio.RadioRunning[static_cast<std::size_t>(active)])
     Radios.SetRadioFrequency(active, false,
                       radio.LastFreqByBand[static_cast<std::size_t>(active)][static_cast<std::size_t>(s.BandIndex)]);
-  if (OneOf(s.ContestIndex, {Naqp, ArrlDx})) RedrawMultipliers();
+  if (Traits().MultsFollowBand) RedrawMultipliers();
 }
 
 // CW to phone and back on the same band row, in logs with both modes. The
@@ -78,7 +78,7 @@ void LogForm::ChangeMode() {
 void LogForm::TakeBandOnActiveRadio() {
   RadioState& radio = Ctx.Radio;
   (radio.ActiveRadio == 2 ? radio.RadioBand2 : radio.RadioBand1) = Ctx.Contest.BandIndex;
-  DupeCheckDone = false;
+  ScannedCall.reset();
 }
 
 void LogForm::SwapActiveRadio(int target) {
@@ -91,13 +91,13 @@ void LogForm::SwapActiveRadio(int target) {
     int16_t kept = to == 2 ? radio.RadioBand2 : radio.RadioBand1;
     if (ValidBand(kept) && s.BandEnabled[static_cast<std::size_t>(BandRow(kept))]) s.BandIndex = kept;
     radio.ActiveRadio = static_cast<int16_t>(to);
-    DupeCheckDone = false;
+    ScannedCall.reset();
   }
   ActiveRadioLabel.Caption = to == 2 ? "Radio2" : "Radio1";
   ActiveRadioLabel.ForeColor = QSONrLabel.ForeColor = to == 2 ? ColourRed : ColourBlue;
   RedrawQSONrLabel();
   ArrangeForMode();
-  if (s.ContestIndex == Ten) UpdateStats();
+  if (Traits().StatsFollowRadio) UpdateStats();
 }
 
 // CW: the PC's speed (and the Winkeyer's, when it is open). Phone: the voice

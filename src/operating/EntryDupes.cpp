@@ -19,44 +19,45 @@ int RowOf(int bandIndex) { return bandIndex >= 1 && bandIndex <= BandIndexCount 
 
 }  // namespace
 
-void LogForm::DupeCheck(const std::string& call) {
-  LastDupeCheckCall = call;
-  DupeCheckDone = true;
+const DupeResult& LogForm::DupeCheck(const std::string& call) {
+  ScannedCall = call;
   Modelabel.Visible = false;
   for (int i = 1; i <= 8; ++i) PrevQSO[static_cast<std::size_t>(i)].Visible = false;
   LabelNeededOn.Visible = false;
 
   const ContestState& contest = Ctx.Contest;
-  ScanForDupes(Ctx.Log, Ctx.Portables, contest.ContestIndex, contest.BandIndex, call, Dupes);
-  IsDupe = Dupes.IsDupe;
-  FoundInLog = Dupes.FoundInLog;
-  DupeQSO = Dupes.DupeQSO;
-  if (!FoundInLog) return;
+  ScanForDupes(Ctx.Log, Ctx.Portables, contest.ContestIndex, contest.BandIndex, call, Scan);
+  if (!Scan.FoundInLog) return Scan;
 
   ShowPriorQsos();
   CallMatchLabel1.Visible = CallMatchLabel2.Visible = OldCallMatchLabel.Visible = false;
   // Found only through the other form of the call: for information, the QSO
   // may still be logged.
-  if (Dupes.PortableMatch && !IsDupe) {
-    Tell(PortableNoteText(Dupes.Call, Dupes.Alt), std::string(PortableNoteTitle), MsgIcon::Information);
+  if (Scan.PortableMatch && !Scan.IsDupe) {
+    Tell(PortableNoteText(Scan.Call, Scan.Alt), std::string(PortableNoteTitle), MsgIcon::Information);
     SetFocus(ExchangeBox);
   }
+  return Scan;
+}
+
+// The last scan while it is of this call and nothing that changes its
+// answer (a QSO, a band or radio change) came since; else a new one.
+const DupeResult& LogForm::CheckedCall(const std::string& call) {
+  return ScannedCall == call ? Scan : DupeCheck(call);
 }
 
 void LogForm::ShowDupe() {
-  EntryRecord = LoggedRecord(Ctx.Log, DupeQSO);
+  EntryRecord = LoggedRecord(Ctx.Log, Scan.DupeQSO);
   lblDupe.Caption = DupeLineText(Ctx.Contest.ContestIndex, EntryRecord);
   lblDupe.Visible = true;
   lblExchange.Visible = false;
   lblCallsign.Visible = false;
 }
 
-void LogForm::AddPortable(const std::string& call) { AddPortableCall(Ctx.Portables, call); }
-
 // The worked-before grid from the last scan, its cells coloured by the band
 // each radio is on.
 void LogForm::ShowPriorQsos() {
-  WorkedGrid grid = BuildWorkedGrid(Ctx.Contest.ContestIndex, Ctx.Contest.BandIndex, Dupes.BandNumbers);
+  WorkedGrid grid = BuildWorkedGrid(Ctx.Contest.ContestIndex, Ctx.Contest.BandIndex, Scan.BandNumbers);
   Modelabel.Caption = grid.ModeCaption;
   Modelabel.Visible = grid.Shown;
   int radio1Row = RowOf(Ctx.Radio.RadioBand1);
@@ -81,11 +82,9 @@ void LogForm::ShowCallMatches(const std::string& partial) {
     return;
   }
   const ContestState& contest = Ctx.Contest;
-  if (CallMatchDisplay) {
-    CallMatchLabel1.Visible = CallMatchLabel2.Visible = true;
-    // In Sweepstakes a call worked on any band is a dupe.
-    CallMatchLabel2.ForeColor = contest.ContestIndex == Sweepstakes ? ColourRed : ColourBlack;
-  }
+  CallMatchLabel1.Visible = CallMatchLabel2.Visible = true;
+  // Where a call worked on any band is a dupe, the other bands' list is red.
+  CallMatchLabel2.ForeColor = Traits().DupeOnAnyBand ? ColourRed : ColourBlack;
   CallMatches matches = MatchLoggedCalls(Ctx.Log, contest.ContestIndex, contest.BandIndex, partial);
   CallMatchLabel1.Caption = matches.ThisList;
   CallMatchLabel2.Caption = matches.OtherList;
@@ -97,8 +96,7 @@ bool LogForm::SendDupeMessage() {
   std::string call = Trim(InData[CallBox].Text);
   if (call.empty()) return false;
   // Insert in the call box comes before the focus step has checked the call.
-  if (!DupeCheckDone || call != LastDupeCheckCall) DupeCheck(call);
-  if (!IsDupe) return false;
+  if (!CheckedCall(call).IsDupe) return false;
   Keyer.SendMessageRow(12);
   ClearEntry();
   return true;

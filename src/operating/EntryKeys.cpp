@@ -13,13 +13,6 @@
 namespace tarnix {
 namespace {
 
-// Contests whose Space toggles between the boxes; in the others it moves on
-// from the call box and is a blank in the exchange.
-bool SpaceToggles(int contest) { return OneOf(contest, {ArrlDx, Wpx, AllAsian, Ten, Neqp}); }
-
-// Contests whose call box never takes a blank.
-bool DropsBlankInCall(int contest) { return OneOf(contest, {Cqp, Cqww, Sprint, Sweepstakes, Paqp, Naqp, Generic}); }
-
 // The stored message of F1..F7, F11, F12 (1..9); 0 for other keys.
 int MessageOfKey(int keyCode) {
   if (keyCode >= KeyF1 && keyCode <= KeyF7) return keyCode - KeyF1 + 1;
@@ -107,7 +100,7 @@ bool LogForm::FunctionKey(int box, int keyCode, int shift) {
         return true;
       }
       SwapActiveRadio(0);
-      if (OneOf(Ctx.Contest.ContestIndex, {Naqp, ArrlDx})) RedrawMultipliers();
+      if (Traits().MultsFollowBand) RedrawMultipliers();
       SetFocus(box);
       return true;
     default:  // F10
@@ -171,7 +164,7 @@ bool LogForm::PlainKey(int box, int keyCode, int shift) {
       }
       return true;
     case KeySpace:
-      if (SpaceToggles(Ctx.Contest.ContestIndex)) {
+      if (Traits().SpaceToggles) {
         SetFocus(box == CallBox ? ExchangeBox : CallBox);
         return true;
       }
@@ -234,7 +227,7 @@ void LogForm::InData_KeyPress(int box, char keyAscii) {
     SpeedOrVoiceModeKey(ch);
     return;
   }
-  if (ch == ' ' && box == CallBox && DropsBlankInCall(Ctx.Contest.ContestIndex)) return;
+  if (ch == ' ' && box == CallBox && !Traits().BlankInCall) return;
   TextBox& b = InData[static_cast<std::size_t>(box)];
   int start = std::min(b.SelStart, static_cast<int>(b.Text.size()));
   int length = std::min(b.SelLength, static_cast<int>(b.Text.size()) - start);
@@ -305,9 +298,8 @@ void LogForm::StepWinkeySpeedMode() {
 // clear.
 void LogForm::Wipe() {
   ClearEntry();
-  const ContestState& s = Ctx.Contest;
-  if ((s.ContestIndex == ArrlDx && s.IsUSVEStation) || s.ContestIndex == Cqww || s.ContestIndex == Generic)
-    RedrawMultipliers();
+  Stations follow = Traits().MultsFollowCountry;
+  if (follow == Stations::All || (follow == Stations::UsVe && Ctx.Contest.IsUSVEStation)) RedrawMultipliers();
 }
 
 // Alt-M: the call goes on top of the call stack, the oldest row drops off,

@@ -111,23 +111,11 @@ void LogForm::ClearTextCommand() {
 }
 
 // The last QSO back in the boxes, to be logged again as a new QSO with what
-// the operator corrects: ARRL DX, CQWW and NAQP.
+// the operator corrects, in the contests that have the repeat command.
 void LogForm::RepeatLastQso() {
   const QsoRecord& last = LoggedRecord(Ctx.Log, Ctx.Log.QSOCount - 1);
-  const ContestState& s = Ctx.Contest;
-  std::string exchange;
-  if (s.ContestIndex == ArrlDx) {
-    exchange = s.IsUSVEStation ? std::to_string(last.QRcvNumber) : last.QMult.Trimmed();
-  } else if (s.ContestIndex == Cqww) {
-    exchange = std::to_string(last.QRcvNumber);
-    NeedPfxLabel.Caption.clear();
-  } else {
-    // A multiplier outside the table (a DX station) is logged as its text.
-    int row = static_cast<int>(Val(last.QMult.Str()));
-    bool inTable = row >= 1 && row <= NAQPTableType::RowCount;
-    std::string mult = inTable ? Ctx.Tables.NAQPTable.At(row, 1) : last.QMult.Trimmed();
-    exchange = last.QRcvText.Trimmed() + " " + mult;
-  }
+  std::string exchange = RepeatedExchange(Ctx.Contest, Ctx.Tables, last);
+  if (Traits().ZoneFromCall) NeedPfxLabel.Caption.clear();
   InData[CallBox].Text = last.QCall.Trimmed();
   InData[CallBox].SelStart = static_cast<int>(InData[CallBox].Text.size());
   InData[CallBox].SelLength = 0;
@@ -158,7 +146,7 @@ void LogForm::StoreRadio() {
 void LogForm::RecallRadio() {
   if (StoRadio != 0) {
     SwapActiveRadio(StoRadio);
-    if (OneOf(Ctx.Contest.ContestIndex, {Naqp, ArrlDx})) RedrawMultipliers();
+    if (Traits().MultsFollowBand) RedrawMultipliers();
     if (Ctx.Radio.RadioRunning[static_cast<std::size_t>(StoRadio)]) {
       Radios.SetRadioFrequency(StoRadio, false, StoFreq);
       Radios.SetRadioMode(StoRadio, StoBand);

@@ -11,6 +11,7 @@ namespace tarnix {
 
 LogForm::LogForm(Context& ctx, Platform& platform, Station& station)
     : Timer1(platform.Timers.CreateTimer([this] { Timer1_Timer(); })),
+      Document(ctx, platform),
       Ctx(ctx),
       Desk(platform),
       Keyer(station.Keyer),
@@ -34,8 +35,7 @@ void LogForm::Tell(const std::string& text, const std::string& title, MsgIcon ic
 void LogForm::Form_Load() {
   ShowRecentFiles();
   bool open = HasLog();
-  for (MenuItem* menu : {&mnuView, &mnuEdit, &mnuRadioWK, &mnuFileSave, &mnuFileBackup}) menu->Enabled = open;
-  mnuFileSetup.Enabled = true;
+  for (MenuItem* menu : {&mnuView, &mnuEdit, &mnuFileSave, &mnuFileBackup}) menu->Enabled = open;
   for (TextBox& box : InData) box.Enabled = open;
   AddButton.Enabled = CancelButton.Enabled = open;
 
@@ -80,7 +80,7 @@ void LogForm::SetMenusForContest() {
   mnuViewZnCty.Visible = c == Cqww;
   mnuViewMults.Enabled = c != AllAsian;
   bool cw = s.ModeEnabled[2], phone = s.ModeEnabled[1];
-  mnuViewCW.Enabled = mnuEditCW.Enabled = cw;
+  mnuViewCW.Enabled = cw;
   mnuViewDvK.Enabled = phone;
 }
 
@@ -105,12 +105,12 @@ void LogForm::mnuEditKillALLEntries_Click() {
     return;
   }
   std::string name = Ctx.Log.LogState == LogStateKind::Named
-                         ? std::filesystem::path(Ctx.LogFileName).filename().string()
+                         ? std::filesystem::path(Document.FileName).filename().string()
                          : std::string("[Unnamed]");
   if (Ask(name + "\nKill ALL log entries?\nIf you do so, a backup file is created, called KilledFile.tnx.",
           "Confirm kill", MsgButtons::YesNo, MsgAnswer::No) != MsgAnswer::Yes)
     return;
-  if (!WriteKilledFile() || !EmptyLogFile()) return;
+  if (!Document.WriteKilledFile() || !Document.Empty()) return;
   WriteSettings();
   ReloadLog();
 }

@@ -4,22 +4,22 @@
 // Owns what the main window shows: the call box InData[0] and the exchange
 // box InData[1], the labels around them, the menus, the focus and the entry
 // state between QSOs. It does what the form does: logging on Enter
-// (ProcessEntry), the focus steps of the boxes, the File and Edit commands.
-// The Qt window only draws these members and forwards events.
+// (ProcessEntry), the focus steps of the boxes, the keys and text commands
+// of the boxes, the File and Edit commands. The Qt window only draws these
+// members and forwards events.
 //
-// The keyboard (EntryKeys.cpp, EntryBands.cpp, EntryTextCommands.cpp): every
-// key of the entry boxes comes through InData_KeyDown and InData_KeyPress;
-// words typed into the call box can be commands (ParseTextCommand). Keys can
-// arrive nested inside a blocking send; they test the keying state's
-// SendingCW before touching the speed.
+// The rules (parsers, dupes, points and multipliers) are called directly;
+// each entry step returns what it found to the next. The open log's file is
+// the LogDocument; the station (the sender of CW and voice, the control of
+// the radios) is given to the form as the desktop is. Calls into the views
+// and the call assistance still to be written are named steps in
+// EntryHooks.cpp.
 //
-// Runs on the user-interface thread. ProcessEntry may be re-entered only
-// through the event pump of a blocking send; it runs to its end before the
-// next key. A refused entry leaves the text in the boxes.
-//
-// Steps that belong to rules not yet present (exchange parsers, dupe check,
-// multipliers, statistics, sending, the log file) are named hooks in
-// EntryHooks.cpp; each says what it will do.
+// Runs on the user-interface thread. A send may block and pump events, so
+// keys can arrive nested inside it: they test the sender's SendingCW before
+// touching the speed. ProcessEntry may be re-entered only through the event
+// pump of a blocking send; it runs to its end before the next key. A refused
+// entry leaves the text in the boxes.
 
 #include <array>
 #include <functional>
@@ -30,6 +30,7 @@
 
 #include "core/QsoRecord.h"
 #include "operating/Context.h"
+#include "operating/LogDocument.h"
 #include "operating/Keys.h"
 #include "operating/Station.h"
 #include "platform/Controls.h"
@@ -75,69 +76,22 @@ class LogForm {
   Button CancelButton{"Cancel"};
 
   MenuItem mnuFile{"&File"}, mnuFileNewLog{"&New Log"}, mnuFileOpenLog{"&Open Log"},
-      mnuFileSave{"Save &As..."}, mnuFileBackup{"&Backup"}, mnuFileSetup{"&Preferences..."},
-      mnuFileUserInfo{"&User Profiles..."}, mnuFileExit{"E&xit"};
+      mnuFileSave{"Save &As..."}, mnuFileBackup{"&Backup"}, mnuFileUserInfo{"&User Profiles..."},
+      mnuFileExit{"E&xit"};
   std::array<MenuItem, 5> mnuFileArray;  // the recent files 1..4
   MenuItem mnuEdit{"&Edit"}, mnuEditLastEntry{"&Edit Last Entry"},
       mnuEditKillLastEntry{"&Kill Last Entry"}, mnuEditKillALLEntries{"Kill &ALL Entries"},
-      mnuEditSelectBands{"Select &Bands..."}, mnuEditCW{"&CW Messages..."};
+      mnuEditSelectBands{"Select &Bands..."};
   MenuItem mnuView{"&View"}, mnuViewMults{"&Multipliers"}, mnuViewCACounties{"&CA Counties"},
       mnuViewARRLUSVEMults{"&US/VE Multipliers"}, mnuViewZnCty{"&Zones/Countries"},
       mnuViewCW{"CW &Messages"}, mnuViewDvK{"&Voice Keyer"};
-  MenuItem mnuRadioWK{"&Radio"};
   MenuItem mnuHelp{"&Help"}, mnuHelpAbout{"&About TARNIX..."};
   std::unique_ptr<Timer> Timer1;  // the clock, every 1000 ms
-  int16_t ClockTicks = 0;         // every tenth tick updates the statistics
-  bool ViewWindowsShown = true;   // false while the main window is minimised
   // Called when the form changed by itself (a timer), so a view redraws.
   std::function<void()> Changed;
 
-  // ---- Entry state ----
-  QsoRecord EntryRecord;          // the record being built; keeps its values
-  bool ExchangeError = false;     // set by a parser that refused
-  int ErrorSelStart = 0, ErrorSelLength = 0;
-  bool ParserReopenedBox = false; // the parser selected and focused a box itself (WPX: the call box)
-  std::string ParsedCall;         // the call as the parser leaves it
-  bool IsDupe = false, FoundInLog = false;
-  int16_t DupeQSO = 0;
-  bool CountyLine = false;
-  bool NewMult = false;
-  int16_t NewMultRow = 0;
-  bool ApostropheLogged = false;
-  int16_t TUInterval = 1, TUCount = 1;
-  bool KeepMatchLabels = false;
-  std::string CurrentPrefix;
-  std::string LastLine;           // the last "Last: " line, for a reload
-  std::string LastDupeCheckCall;  // the call of the last dupe check
-  bool DupeCheckDone = false;     // LastDupeCheckCall is valid
-
-  // ---- Keyboard state (EntryKeys.cpp, EntryTextCommands.cpp) ----
-  bool BackslashPressed = false, BracketPressed = false;  // set just before key-down
-  std::array<std::string, 6> CallStack;  // the calls of Alt-M, rows 1..5, newest first
-  int16_t CallStackPos = 0;              // the row last recalled, 1..5
-  int KeyboardCWBox = CallBox;           // where Caps Lock returns to
-  int KeyboardCWCaret = 0;
-  int16_t StoRadio = 0;                  // the STO memory; radio 0: nothing stored
-  float StoFreq = 0;
-  int16_t StoBand = 0;
-
-  // ---- Exchange parser state (EntryParsers.cpp) ----
-  // The received fields of the last parse, read by the logging step. A
-  // refused parse leaves the fields it did not reach as they were.
-  ReceivedFields Received;
-
-  // ---- Dupe check state (EntryDupes.cpp) ----
-  // The last scan of the log for the call: IsDupe, FoundInLog and DupeQSO
-  // above are copied from it for the logging step.
-  DupeResult Dupes;
-  // The current-log match lists under the call box; on from the start.
-  bool CallMatchDisplay = true;
-  // The lists of logged calls beginning with partial, refreshed at each
-  // key in the call box; an empty call empties them.
-  void ShowCallMatches(const std::string& partial);
-  // Insert on CW with DupeSendMsgFlag set: a dupe gets message row 12 instead
-  // of the call and the entry is cleared. False when Insert is not for this.
-  bool SendDupeMessage();
+  // The open log's file.
+  LogDocument Document;
 
   // ---- What the form does ----
   void Form_Load();
@@ -197,8 +151,6 @@ class LogForm {
   // Start-up's last step: a temporary log left by a crash is offered back.
   void CheckRecovery();
   void Timer1_Timer();
-  // The main window minimised or restored: the view windows go and come.
-  void Form_Resize(bool minimised);
 
   void RedrawQSONrLabel();
   void RedrawScore();
@@ -207,19 +159,53 @@ class LogForm {
   // Used when a log is loaded. Never writes to the file.
   void ReplayLog(int count);
 
+  // The last scan of the log for a call: found, dupe, the QSO it dupes and
+  // the bands it was worked on, as the dupe line and the grid show them.
+  const DupeResult& DupeScan() const { return Scan; }
+
+  // (Still public for the tests that set them; they go private with the tests' move.)
+  int16_t TUInterval = 1, TUCount = 1;  // the F5 and F6 rotation after a QSO
+  int16_t ClockTicks = 0;         // every tenth tick updates the statistics
+
+  // ---- Keyboard state (EntryKeys.cpp, EntryTextCommands.cpp) ----
+  bool BackslashPressed = false, BracketPressed = false;  // set just before key-down
+  std::array<std::string, 6> CallStack;  // the calls of Alt-M, rows 1..5, newest first
+  int16_t CallStackPos = 0;              // the row last recalled, 1..5
+  int KeyboardCWBox = CallBox;           // where Caps Lock returns to
+  int KeyboardCWCaret = 0;
+  int16_t StoRadio = 0;                  // the STO memory; radio 0: nothing stored
+  float StoFreq = 0;
+  int16_t StoBand = 0;
+
  private:
-  // Entry steps (ProcessEntry.cpp).
+  // Entry steps (ProcessEntry.cpp, EntryParsers.cpp, EntryDupes.cpp,
+  // EntryScoring.cpp), in the order of the logging.
+  std::optional<std::string> RunExchangeParser(const std::string& typed);
   bool CheckAge();
+  const DupeResult& DupeCheck(const std::string& call);
+  const DupeResult& CheckedCall(const std::string& call);
+  void ShowDupe();
+  void ShowPriorQsos();
+  void ShowCallMatches(const std::string& partial);
+  bool SendDupeMessage();
   void TakeTime();
-  void TakeCall();
+  void TakeCall(const std::string& call);
   void IndexCall(int n, const std::string& call, int band);
   void ListCall(const std::string& call);
-  void CountPoints(const QsoRecord& qso);
+  MultOutcome ScoreEntry(bool dupe, const std::string& prefix);
+  void CountPoints(const QsoRecord& qso, const MultOutcome& outcome);
   void TakeRadioAndFrequency();
   void StoreEntry();
   void CountTime(int n);
-  bool WriteEntry();
+  bool WriteEntry(const MultOutcome& outcome);
   void SendFollowUp(int shift);
+  void PrefillExchange();
+  void ShowNeededOn();
+  void ShowWorkedOrNeeded();
+  ScoringState Scoring();
+  // Moves the focus; without focusSteps the box got is not checked (after
+  // a refused exchange, whose text the operator is to correct).
+  void MoveFocus(int box, bool focusSteps);
   void InData_GotFocus(int box);
   void InData_LostFocus(int box);
 
@@ -230,24 +216,15 @@ class LogForm {
   void OpenExisting(int recent);
   void RememberLogName(const std::string& name);
   void ShowRecentFiles();
-  void LoadLog();
-  bool ReadLogFile(std::string& bytes);
+  void LoadLog(bool reload);
   void AbandonLoad();
-  bool ConvertLog(std::string& bytes, bool sweepstakes);
-  void AfterHeader(const std::string* fileBytes);
+  void AfterHeader(const std::string* fileBytes, bool reload);
   void LoadRecords(const std::string& bytes);
   void ReloadLog();
   bool SaveAs();
-  void DeleteTempLogFile();
-  MsgAnswer FileErrorRoutine(const std::string& error);
-  bool WriteWithRetry(const std::function<FileError()>& write);
-  FileError WriteLogRecord(int n);
-  std::string LogFileBytes(int lastQso) const;
-  bool WriteKilledFile();
-  void RotateUnsavedLogs();
-  bool EmptyLogFile();
   void SetMenusForContest();
   bool HasLog() const;
+  void WriteSettings();
 
   // Keyboard (EntryKeys.cpp).
   int MappedKey(int keyCode, int shift);
@@ -278,49 +255,32 @@ class LogForm {
   void StoreRadio();
   void RecallRadio();
 
-  // Hooks for rules still to come (EntryHooks.cpp).
-  void DupeCheck(const std::string& call);
-  void ShowDupe();
-  void RunExchangeParser();
-  void TakePrefix();
-  void AddWorkedCall(const std::string& call);
-  void AddPortable(const std::string& call);
-  void TakeReceivedFields();
+  // Views and call assistance still to come (EntryHooks.cpp).
   void SplitQSOTime(int n);
   void RedrawMultipliers();
   void UpdateStats();
-  void ShowNewMult();
+  void ShowNewMult(const MultOutcome& outcome);
   void UpdateLogDisplay();
-  void PrefillExchange();
-  void ShowPriorQsos();
   void LookUpInstaMatch();
   void ClearPartialWindow();
-  std::string WpxPrefixOf(const std::string& call);
-  void ResetMultiplierTables();
   void CloseViewWindows();
   void CloseMessageWindows();
   void ClearCallAssist();
   bool EditQso(int n);
-  void WriteSettings();
-
-  // ---- Scoring state (EntryScoring.cpp) ----
-  // The points and multiplier steps of the QSO being logged (step 12), and
-  // the multiplier step of QSO n when a log is replayed; both set NewMult and
-  // NewMultRow.
-  void ScoreEntry();
-  void ScoreReplayed(int n);
-  // A counted QSO's points into the totals and the contest's counters.
-  void CountContestPoints(const QsoRecord& qso);
-  // LabelNeededOn while the exchange is typed.
-  void ShowNeededOn();
-  // NeedPfxLabel and LblWpxCountry for the call in the call box.
-  void ShowWorkedOrNeeded();
-  // The rules' view of the open log.
-  ScoringState Scoring();
 
   MsgAnswer Ask(const std::string& text, const std::string& title, MsgButtons buttons, MsgAnswer dflt,
                 MsgIcon icon = MsgIcon::Question);
   void Tell(const std::string& text, const std::string& title, MsgIcon icon = MsgIcon::Exclamation);
+  // The open log's row of the contest catalogue.
+  const ContestInfo& Traits() const { return TraitsOf(Ctx.Contest.ContestIndex); }
+
+  // ---- Entry state, kept between the steps of one QSO and between QSOs ----
+  QsoRecord EntryRecord;          // the record being built; keeps its values
+  ReceivedFields Received;        // the last parse's fields (a refusal leaves the rest)
+  DupeResult Scan;                // the last scan of the log for a call
+  std::optional<std::string> ScannedCall;  // its call, while nothing changed the answer
+  std::string LastLine;           // the last "Last: " line, for a reload
+  bool ApostropheLogged = false;  // logging was started by the apostrophe key
 
   Context& Ctx;
   Platform& Desk;

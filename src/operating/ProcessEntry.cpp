@@ -20,7 +20,7 @@ std::string FrequencyText(float kHz) {
 
 // The fields of a QSO that follow the call on the "Last: " line.
 std::string ContestFieldsText(int contest, const QsoRecord& r) {
-  if (contest == Generic) return Trim(r.QRcvText.Str() + r.QMult.Str());
+  if (TraitsOf(contest).NotesExchange) return Trim(r.QRcvText.Str() + r.QMult.Str());
   std::string text;
   auto add = [&text](const std::string& field) {
     if (field.empty()) return;
@@ -36,13 +36,10 @@ std::string ContestFieldsText(int contest, const QsoRecord& r) {
 }  // namespace
 
 void LogForm::ProcessEntry(int box, int shift) {
-  ContestState& contest = Ctx.Contest;
   LogStore& log = Ctx.Log;
-  const int c = contest.ContestIndex;
 
-  NewMult = false;
   if (int command = ParseTextCommand(); command != 0) {
-    bool repeatApplies = log.QSOCount > 1 && OneOf(c, {ArrlDx, Cqww, Naqp});
+    bool repeatApplies = log.QSOCount > 1 && Traits().RepeatCommand;
     if (command != 1 || repeatApplies) {
       RunTextCommand(command);
       return;
@@ -65,46 +62,31 @@ void LogForm::ProcessEntry(int box, int shift) {
     InData[CallBox].Text = first10;
   }
 
-  if (box == CallBox) {
-    DupeCheck(Trim(InData[CallBox].Text));
-    if (IsDupe) ShowDupe();
-  }
+  if (box == CallBox && DupeCheck(Trim(InData[CallBox].Text)).IsDupe) ShowDupe();
 
-  ParsedCall = Trim(InData[CallBox].Text);
-  if (c == AllAsian) {
-    if (!CheckAge()) return;
-  } else {
-    RunExchangeParser();
-  }
-  if (ParserReopenedBox) {
-    ParserReopenedBox = false;
-    return;
-  }
-  if (ExchangeError) {
-    InData[ExchangeBox].SelStart = ErrorSelStart;
-    InData[ExchangeBox].SelLength = ErrorSelLength;
-    SetFocus(ExchangeBox);
-    ExchangeError = false;
-    return;
-  }
+  std::optional<std::string> call = RunExchangeParser(Trim(InData[CallBox].Text));
+  if (!call) return;
+  const bool dupe = Scan.IsDupe;
 
   InData[CallBox].ForeColor = ColourBlack;
-  if (OneOf(c, {Wpx, Cqww, AllAsian})) TakePrefix();
+  // The WPX prefix of the call, for the contests that score by it.
+  std::string prefix = Traits().TakesWpxPrefix ? GetWPXPrefix(RemoveChars(*call, ".?")) : std::string();
 
   try {
     TakeTime();
-    TakeCall();
-    TakeReceivedFields();
-    if (IsDupe) EntryRecord.QPoints.Set("0");
+    TakeCall(*call);
+    TakeReceivedFields(Ctx.Contest.ContestIndex, Ctx.Contest.IsUSVEStation, Received, InData[ExchangeBox].Text,
+                       EntryRecord);
+    if (dupe) EntryRecord.QPoints.Set("0");
     EntryRecord.QNumber = log.QSOCount;
-    ScoreEntry();
+    MultOutcome outcome = ScoreEntry(dupe, prefix);
     TakeRadioAndFrequency();
     StoreEntry();
 
-    CountPoints(EntryRecord);
+    CountPoints(EntryRecord, outcome);
     CountTime(log.QSOCount);
     RedrawMultipliers();
-    if (!WriteEntry()) return;
+    if (!WriteEntry(outcome)) return;
   } catch (const std::out_of_range& error) {
     // The bound of the log's tables is the limit of the log: the QSO is
     // refused with the error's own text.
@@ -114,7 +96,7 @@ void LogForm::ProcessEntry(int box, int shift) {
 
   ClearEntry();
 
-  if (c == Cqp && CountyLine) {
+  if (Traits().RefillsCountyLine && Received.CountyLine) {
     const QsoRecord& last = log.LogRecords.At(log.QSOCount - 1);
     InData[CallBox].Text = last.QCall.Trimmed();
     InData[ExchangeBox].Text = std::to_string(last.QRcvNumber);
@@ -126,8 +108,9 @@ void LogForm::ProcessEntry(int box, int shift) {
   SendFollowUp(shift);
 }
 
-// The age test of the All Asian contest, which has no parser: an empty box or
-// a value outside 0..99 is refused. Text that is no number is 0 and passes.
+// The age test of a contest whose exchange is an age, and which has no
+// parser: an empty box or a value outside 0..99 is refused. Text that is no
+// number is 0 and passes.
 bool LogForm::CheckAge() {
   TextBox& exchange = InData[ExchangeBox];
   double age = Val(exchange.Text);
@@ -158,8 +141,8 @@ void LogForm::TakeTime() {
   EntryRecord.QBand = Ctx.Contest.BandIndex;
 }
 
-void LogForm::TakeCall() {
-  EntryRecord.QCall.Set(UCase(RemoveChars(ParsedCall, ".?")));
+void LogForm::TakeCall(const std::string& call) {
+  EntryRecord.QCall.Set(UCase(RemoveChars(call, ".?")));
   std::string c = EntryRecord.QCall.Trimmed();
   IndexCall(Ctx.Log.QSOCount, c, Ctx.Contest.BandIndex);
   ListCall(c);
@@ -173,23 +156,16 @@ void LogForm::IndexCall(int n, const std::string& call, int band) {
   IndexFindCall(log, call + static_cast<char>('0' + band / 10 % 10) + static_cast<char>('0' + band % 10), false);
 }
 
-// The lists a call joins: the CW Open's worked calls, the portable table.
+// A call with "/" joins the portable table of the dupe check.
 void LogForm::ListCall(const std::string& call) {
-  if (Ctx.Contest.ContestIndex == CwOpen) AddWorkedCall(call);
-  if (call.find('/') != std::string::npos) AddPortable(call);
+  if (call.find('/') != std::string::npos) AddPortableCall(Ctx.Portables, call);
 }
 
 // Points and a new multiplier of a counted QSO go to the totals and to the
 // counters of its band.
-void LogForm::CountPoints(const QsoRecord& qso) {
-  LogStore& log = Ctx.Log;
-  CountContestPoints(qso);
-  // ARRL DX and ARRL 10 count their multipliers in their multiplier step.
-  int c = Ctx.Contest.ContestIndex;
-  if (c != ArrlDx && c != Ten && NewMult) {
-    ++log.TotalMults;
-    ++log.BandMults.at(static_cast<std::size_t>(qso.QBand));
-  }
+void LogForm::CountPoints(const QsoRecord& qso, const MultOutcome& outcome) {
+  ScoringState s = Scoring();
+  TallyPoints(s, qso, outcome);
 }
 
 void LogForm::ReplayLog(int count) {
@@ -205,9 +181,8 @@ void LogForm::ReplayLog(int count) {
     if (UCase(call) != "VOID") {
       ++log.BandQSOs.at(static_cast<std::size_t>(qso.QBand));
       ListCall(call);
-      NewMult = false;
-      ScoreReplayed(n);
-      CountPoints(qso);
+      ScoringState s = Scoring();
+      CountPoints(qso, ReplayQso(s, qso));
     }
     CountTime(n);
   }
@@ -227,7 +202,7 @@ void LogForm::TakeRadioAndFrequency() {
 
 void LogForm::StoreEntry() {
   LogStore& log = Ctx.Log;
-  if (Ctx.Contest.ContestIndex == Generic) {
+  if (Traits().NotesExchange) {
     std::string notes = UCase(Trim(InData[ExchangeBox].Text));
     EntryRecord.QRcvText.Set(notes.substr(0, 10));
     EntryRecord.QMult.Set(notes.size() > 10 ? notes.substr(10, 5) : "");
@@ -269,24 +244,24 @@ void LogForm::CountTime(int n) {
 // retry writes again, ignore goes on without it, abort leaves the entry. The
 // QSO stays in memory in every case; QSOCount moves on only once the record
 // is on disk. Returns false on abort.
-bool LogForm::WriteEntry() {
+bool LogForm::WriteEntry(const MultOutcome& outcome) {
   LogStore& log = Ctx.Log;
   bool written = false;
   for (;;) {
     log.LogRecords.At(log.QSOCount) = EntryRecord;
-    FileError error = WriteLogRecord(log.QSOCount);
+    FileError error = Document.WriteRecord(log.QSOCount);
     if (!error) {
       written = true;
       break;
     }
-    MsgAnswer answer = FileErrorRoutine(*error + "\n\nThe QSO is kept in memory but is not yet in the log file.");
+    MsgAnswer answer = Document.FileErrorRoutine(*error + "\n\nThe QSO is kept in memory but is not yet in the log file.");
     if (answer == MsgAnswer::Retry) continue;
     if (answer == MsgAnswer::Ignore) break;
     return false;
   }
   if (written) ++log.QSOCount;
   UpdateStats();
-  ShowNewMult();
+  ShowNewMult(outcome);
   UpdateLogDisplay();
   return true;
 }
@@ -320,7 +295,7 @@ void LogForm::ClearEntry() {
     box.SelStart = box.SelLength = 0;
   }
   InData[CallBox].ForeColor = ColourBlack;
-  DupeCheckDone = false;
+  ScannedCall.reset();
   SetFocus(CallBox);
   RedrawQSONrLabel();
   RedrawScore();
@@ -337,37 +312,32 @@ void LogForm::RedrawQSONrLabel() {
 void LogForm::RedrawScore() {
   LogStore& log = Ctx.Log;
   log.ClaimedScore = ClaimedScoreOf(Ctx.Contest.ContestIndex, log.TotalQSOPoints, log.TotalMults);
-  if (Ctx.Contest.ContestIndex == Generic) {
-    ScoreLabel.Caption = " CW Cties: " + std::to_string(CountriesWorked(Ctx.Counters.CWCountryCount));
-    MultsLabel.Caption = "SSB Cties: " + std::to_string(CountriesWorked(Ctx.Counters.SSBCountryCount));
-  } else {
-    ScoreLabel.Caption = "Score: " + Grouped(log.ClaimedScore);
-    MultsLabel.Caption = "Mults:  " + std::to_string(log.TotalMults);
-  }
+  ScoreCaptions captions = ScoreCaptionsOf(Scoring());
+  ScoreLabel.Caption = captions.Score;
+  MultsLabel.Caption = captions.Mults;
 }
 
-void LogForm::SetFocus(int box) {
+void LogForm::SetFocus(int box) { MoveFocus(box, true); }
+
+void LogForm::MoveFocus(int box, bool focusSteps) {
   if (box == FocusedBox) return;
   int old = FocusedBox;
   FocusedBox = box;
   if (old != NoBox) InData_LostFocus(old);
-  if (box != NoBox) InData_GotFocus(box);
+  if (box != NoBox && focusSteps) InData_GotFocus(box);
 }
 
 // Entering the exchange box shows the dupe before logging, and pre-fills the
 // exchange when the rules know it.
 void LogForm::InData_GotFocus(int box) {
   if (box != ExchangeBox) return;
-  if (Ctx.Contest.ContestIndex == Cqp && CountyLine) return;
-  if (ExchangeError) return;
-  std::string call = Trim(InData[CallBox].Text);
-  if (!DupeCheckDone || call != LastDupeCheckCall) DupeCheck(call);
-  if (IsDupe) {
+  if (Traits().RefillsCountyLine && Received.CountyLine) return;
+  if (CheckedCall(Trim(InData[CallBox].Text)).IsDupe) {
     InData[CallBox].ForeColor = ColourRed;
     ShowDupe();
   }
-  if (Ctx.Contest.ContestIndex != Cqww && InData[ExchangeBox].Text.empty()) PrefillExchange();
-  if (FoundInLog) ShowPriorQsos();
+  if (!Traits().ZoneFromCall && InData[ExchangeBox].Text.empty()) PrefillExchange();
+  if (Scan.FoundInLog) ShowPriorQsos();
   else LookUpInstaMatch();
 }
 
@@ -375,12 +345,8 @@ void LogForm::InData_LostFocus(int box) {
   if (box != CallBox) return;
   // CQWW: the zone of the call's country goes into an empty exchange box,
   // behind a blank, for the operator to overtype only when it differs.
-  if (Ctx.Contest.ContestIndex == Cqww && InData[ExchangeBox].Text.empty()) PrefillExchange();
+  if (Traits().ZoneFromCall && InData[ExchangeBox].Text.empty()) PrefillExchange();
   if (HasLog()) ShowWorkedOrNeeded();
-  if (KeepMatchLabels) {
-    KeepMatchLabels = false;
-    return;
-  }
   CallMatchLabel1.Visible = CallMatchLabel2.Visible = OldCallMatchLabel.Visible = false;
 }
 

@@ -33,8 +33,6 @@ void CopyRadioDefaults(Settings& settings) {
 
 bool StartProgram(Context& ctx, Platform& desk) {
   ctx.Log.LogState = LogStateKind::None;
-  ctx.DialogCancelled = false;
-  ctx.ReloadFlag = false;
   ResetLog(ctx.Log);
   if (std::string error = LoadProgramFolder(ctx); !error.empty()) {
     desk.Boxes.Show({"Can't find or read startup files tarnix125.ini or tarnix121.dat.  "

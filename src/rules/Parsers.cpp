@@ -225,4 +225,65 @@ ParseResult ParseExchange(std::string_view call, std::string_view exchange, cons
   }
 }
 
+std::string LoggedCall(int contestIndex, const ReceivedFields& fields, const std::string& typed) {
+  if (contestIndex == Wpx) return fields.WPXCall;
+  if (contestIndex == Cqww) return fields.CQWWCall;
+  return typed;
+}
+
+void TakeReceivedFields(int contestIndex, bool usveStation, const ReceivedFields& f, std::string_view exchange,
+                        QsoRecord& r) {
+  switch (contestIndex) {
+    case ArrlDx:
+      r.QRcvNumber = usveStation ? f.ARRLPower : 0;
+      break;
+    case Cqp:
+    case Paqp:
+      r.QRcvNumber = f.CQPNumber;
+      break;
+    case Cqww:
+      r.QRcvNumber = NumberOf(f.CQWWZone);
+      break;
+    case Sprint:
+      r.QRcvNumber = f.SprintNumber;
+      r.QRcvText.Set(f.SprintName);
+      break;
+    case Sweepstakes:
+      r.QRcvNumber = f.SSNumber;
+      r.QMult.Set(f.SSPrecedence + f.SSCheck + f.SSShortForm);
+      break;
+    case Wpx:
+      r.QRcvNumber = NumberOf(f.WPXNumber);
+      break;
+    case AllAsian:
+      r.QRcvNumber = NumberOf(exchange);
+      break;
+    case Naqp:
+      r.QRcvNumber = 0;
+      r.QRcvText.Set(f.NAQPName);
+      break;
+    case Ten:
+      r.QRcvNumber = f.TenNumber;
+      break;
+    case CwOpen:
+      r.QRcvNumber = f.CWONumber;
+      r.QRcvText.Set(f.CWOName);
+      break;
+    case Generic:
+      r.QRcvNumber = 0;
+      break;
+    default:  // NEQP
+      break;
+  }
+}
+
+std::string RepeatedExchange(const ContestState& contest, const MultiplierTables& tables, const QsoRecord& last) {
+  if (contest.ContestIndex == ArrlDx)
+    return contest.IsUSVEStation ? std::to_string(last.QRcvNumber) : last.QMult.Trimmed();
+  if (contest.ContestIndex == Cqww) return std::to_string(last.QRcvNumber);
+  int row = static_cast<int>(Val(last.QMult.Str()));
+  bool inTable = row >= 1 && row <= NAQPTableType::RowCount;
+  return last.QRcvText.Trimmed() + " " + (inTable ? tables.NAQPTable.At(row, 1) : last.QMult.Trimmed());
+}
+
 }  // namespace tarnix

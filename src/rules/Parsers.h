@@ -20,6 +20,7 @@
 
 #include "config/StartupData.h"
 #include "core/Contest.h"
+#include "core/QsoRecord.h"
 #include "rules/Countries.h"
 #include "rules/MultiplierTables.h"
 
@@ -99,6 +100,25 @@ ParseResult CWOParse(std::string_view exchange, ReceivedFields& fields);
 // test belongs to the logging step) and Generic have none and pass.
 ParseResult ParseExchange(std::string_view call, std::string_view exchange, const ContestState& contest,
                           const MultiplierTables& tables, const StartupData& data, ReceivedFields& fields);
+
+// The call a QSO is logged under after an accepted parse: WPX and CQWW
+// without the number or zone typed on its end, every other contest the call
+// as typed.
+std::string LoggedCall(int contestIndex, const ReceivedFields& fields, const std::string& typed);
+
+// The received number and text of the record from an accepted parse, by
+// contest. NEQP leaves the number as the record held it; Generic's notes
+// are stored by the logging step; the multiplier field is the scoring's but
+// for SS, whose precedence, check and section's short form are joined here.
+// All Asian's age is the exchange box's number.
+void TakeReceivedFields(int contestIndex, bool usveStation, const ReceivedFields& fields, std::string_view exchange,
+                        QsoRecord& record);
+
+// The exchange of a logged QSO as the repeat command puts it back in the
+// box: ARRL DX the power (from the US or Canada) or the state, CQWW the
+// zone, NAQP the name and the multiplier (its table text, or the stored
+// text of a DX station).
+std::string RepeatedExchange(const ContestState& contest, const MultiplierTables& tables, const QsoRecord& last);
 
 // What CQWW puts in the exchange box once the call is known: a blank, then
 // the zone. The zone is the cty.dat override of the call's entry, else the

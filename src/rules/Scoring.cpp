@@ -116,12 +116,17 @@ int PointsValue(int contestIndex, const QsoRecord& r) {
   return value == 3 ? 15 : value * 10;
 }
 
-void TallyPoints(ScoringState& s, const QsoRecord& r) {
+void TallyPoints(ScoringState& s, const QsoRecord& r, const MultOutcome& outcome) {
   const int c = s.Contest.ContestIndex;
   const int points = PointsValue(c, r);
   const auto band = static_cast<std::size_t>(r.QBand);
   LogStore& log = s.Log;
   ContestCounters& k = s.Counters;
+  // ARRL DX and ARRL 10 count their multipliers in their multiplier step.
+  if (outcome.NewMult && c != ArrlDx && c != Ten) {
+    ++log.TotalMults;
+    ++log.BandMults.at(band);
+  }
   log.TotalQSOPoints += points;
   if (OneOf(c, {Sprint, Sweepstakes, Naqp})) return;
   log.BandPoints.at(band) = static_cast<int16_t>(log.BandPoints.at(band) + points);
@@ -149,6 +154,13 @@ void TallyPoints(ScoringState& s, const QsoRecord& r) {
 int32_t ClaimedScoreOf(int contestIndex, int32_t totalQSOPoints, int16_t totalMults) {
   if (contestIndex == Paqp) return static_cast<int32_t>(RoundEven(totalQSOPoints / 10.0 * totalMults));
   return totalQSOPoints * totalMults;
+}
+
+ScoreCaptions ScoreCaptionsOf(const ScoringState& s) {
+  if (s.Contest.ContestIndex == Generic)
+    return {" CW Cties: " + std::to_string(CountriesWorked(s.Counters.CWCountryCount)),
+            "SSB Cties: " + std::to_string(CountriesWorked(s.Counters.SSBCountryCount))};
+  return {"Score: " + Grouped(s.Log.ClaimedScore), "Mults:  " + std::to_string(s.Log.TotalMults)};
 }
 
 std::optional<std::string> NeededOnText(const ScoringState& s, std::string_view exchange) {

@@ -56,7 +56,8 @@ struct MultOutcome {
 void ScorePoints(ScoringState& s, QsoRecord& record, const std::string& prefix, bool countyLine);
 
 // The multiplier step of a QSO being logged: QMult, the worked marks and
-// arrays, and for ARRL DX, CQWW, ARRL 10 and CW Open the multiplier counters
+// arrays, and for ARRL DX, CQWW, ARRL 10 and CW Open (whose distinct calls
+// are its multipliers) the multiplier counters
 // themselves (the others leave TotalMults and BandMults to the tally of a
 // NewMult). record holds the logged call, band, points and received number;
 // prefix is the call's WPX prefix (WPX, All Asian); exchange is the exchange
@@ -74,14 +75,23 @@ MultOutcome ReplayQso(ScoringState& s, const QsoRecord& record);
 // tenths and its other digits count in tenths too.
 int PointsValue(int contestIndex, const QsoRecord& record);
 
-// A counted QSO's points into TotalQSOPoints, the band's points (not in
+// A counted QSO into the totals: a new multiplier of its multiplier step
+// into TotalMults and the band's (but in ARRL DX and ARRL 10, which count
+// their own), its points into TotalQSOPoints, the band's points (not in
 // Sprint, SS and NAQP), the contest's CW and phone QSO counters and the
 // band's average points (ARRL DX, CQWW, WPX, All Asian, CW Open). BandQSOs
 // must already count the QSO.
-void TallyPoints(ScoringState& s, const QsoRecord& record);
+void TallyPoints(ScoringState& s, const QsoRecord& record, const MultOutcome& outcome);
 
 // TotalQSOPoints times TotalMults; PAQP's tenths divided by ten first.
 int32_t ClaimedScoreOf(int contestIndex, int32_t totalQSOPoints, int16_t totalMults);
+
+// The two labels beside the boxes: "Score: " and "Mults:  ", or the
+// Generic log's CW and phone countries.
+struct ScoreCaptions {
+  std::string Score, Mults;
+};
+ScoreCaptions ScoreCaptionsOf(const ScoringState& s);
 
 // The caption of LabelNeededOn while the exchange is typed (ARRL DX from a DX
 // station, NAQP): the multiplier, " needed on  ", and the bands of the current

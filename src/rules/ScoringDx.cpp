@@ -174,6 +174,8 @@ MultOutcome DxReplay(ScoringState& s, const QsoRecord& r) {
       GenericCount(s, CountryRowOf(s, call), band);
       return {};
     case CwOpen:
+      // The distinct calls are the multipliers.
+      AddToList(s.Counters.CWOCallList, call);
       s.Log.TotalMults = s.Counters.CWOCallList.Count;
       return {};
     default:

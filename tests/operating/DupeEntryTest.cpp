@@ -90,11 +90,11 @@ TEST_F(DupeEntryTest, EachContestsRuleByBandAndMode) {
     ASSERT_EQ(ctx->Log.QSOCount, static_cast<int>(row.logBands.size()) + 1) << row.name;
     Band(row.checkBand);
     Check("K3ZZZ");
-    EXPECT_TRUE(form.Dupes.FoundInLog) << row.name;
-    EXPECT_EQ(form.Dupes.FoundOnBand, row.onBand) << row.name;
-    EXPECT_EQ(form.IsDupe, row.dupe) << row.name;
+    EXPECT_TRUE(form.DupeScan().FoundInLog) << row.name;
+    EXPECT_EQ(form.DupeScan().FoundOnBand, row.onBand) << row.name;
+    EXPECT_EQ(form.DupeScan().IsDupe, row.dupe) << row.name;
     if (row.dupe) {
-      EXPECT_EQ(form.DupeQSO, row.dupeQso) << row.name;
+      EXPECT_EQ(form.DupeScan().DupeQSO, row.dupeQso) << row.name;
     }
   }
   EXPECT_EQ(Grid(), "");  // SS, the last row, has no grid
@@ -107,7 +107,7 @@ TEST_F(DupeEntryTest, PortableCallsUncertainCopyAndEqualSums) {
   Band(4);
   for (const char* call : {"K3ZZZ/P", "W1AW"}) {
     Check(call);
-    EXPECT_TRUE(form.FoundInLog && form.Dupes.PortableMatch && !form.IsDupe) << call;
+    EXPECT_TRUE(form.DupeScan().FoundInLog && form.DupeScan().PortableMatch && !form.DupeScan().IsDupe) << call;
   }
   ASSERT_EQ(desk.Boxes.Shown.size(), 2u);
   EXPECT_EQ(desk.Boxes.Shown[0].Title, "Portable Station?");
@@ -119,25 +119,25 @@ TEST_F(DupeEntryTest, PortableCallsUncertainCopyAndEqualSums) {
   Band(3);
   for (const char* call : {"K3ZZZ/P", "W1AW", "K3.ZZ?Z", "W1A?W"}) {
     Check(call);
-    EXPECT_TRUE(form.IsDupe) << call;
+    EXPECT_TRUE(form.DupeScan().IsDupe) << call;
   }
   EXPECT_EQ(desk.Boxes.Shown.size(), 2u);
   // KZ3ZZ has the character sum of K3ZZZ, and is not K3ZZZ.
   Check("KZ3ZZ");
   EXPECT_EQ(ctx->Log.CallSum.At(0), CharSum("KZ3ZZ"));
-  EXPECT_FALSE(form.FoundInLog);
+  EXPECT_FALSE(form.DupeScan().FoundInLog);
 
   // The portable table goes with its log, and a load rebuilds it.
   desk.Files.Names.push_back(home.Path + "ww.TNX");
   form.mnuFileSave_Click();
   NewLog(Cqww);
   Check("W1AW");
-  EXPECT_FALSE(form.Dupes.PortableMatch);
+  EXPECT_FALSE(form.DupeScan().PortableMatch);
   desk.Boxes.Answers.push_back(MsgAnswer::No);  // the new log is not kept
   desk.Files.Names.push_back(home.Path + "ww.TNX");
   form.mnuFileOpenLog_Click();
   Check("W1AW");
-  EXPECT_TRUE(form.IsDupe && form.Dupes.PortableMatch);
+  EXPECT_TRUE(form.DupeScan().IsDupe && form.DupeScan().PortableMatch);
 }
 
 TEST_F(DupeEntryTest, DupeLineGridRedCallAndZeroPoints) {

@@ -107,7 +107,7 @@ TEST(FileFault, EveryWriteOfAContestFailsOnceWithEachAnswer) {
     Station clean;
     clean.NewLog();
     for (const std::string& call : kCalls) clean.Log(call);
-    ASSERT_EQ(CallsOnDisk(clean.Ctx->LogFileName), kCalls);
+    ASSERT_EQ(CallsOnDisk(clean.Form.Document.FileName), kCalls);
     writes = clean.Desk.Disk.Writes;
   }
   ASSERT_EQ(writes, static_cast<int>(kCalls.size()) + 1);
@@ -134,7 +134,7 @@ TEST(FileFault, EveryWriteOfAContestFailsOnceWithEachAnswer) {
         EXPECT_EQ(s.FirstLineOf("File Error"), "Can't write: No space left on device");
         std::vector<std::string> expected = answer == MsgAnswer::Ignore && k > 1 ? Without(kCalls, k - 2) : kCalls;
         EXPECT_EQ(s.CallsInMemory(), expected);
-        EXPECT_EQ(CallsOnDisk(s.Ctx->LogFileName), expected);
+        EXPECT_EQ(CallsOnDisk(s.Form.Document.FileName), expected);
       }
   EXPECT_EQ(tried, writes * 6);
 }
@@ -156,7 +156,7 @@ TEST(FileFault, ADiskFullUntilSpaceIsFreedLosesNothing) {
     for (const std::string& call : kCalls) s.Log(call);
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(s.CallsInMemory(), kCalls);
-    EXPECT_EQ(CallsOnDisk(s.Ctx->LogFileName), kCalls);
+    EXPECT_EQ(CallsOnDisk(s.Form.Document.FileName), kCalls);
   }
 }
 
@@ -271,13 +271,13 @@ TEST_F(DiskFault, ALogFileDeletedOrCutShortIsWrittenAgainFromMemory) {
   // The temporary log of an unnamed contest alike, from its first QSO on.
   Station fresh;
   fresh.NewLog();
-  fs::remove(fresh.Ctx->LogFileName);
+  fs::remove(fresh.Form.Document.FileName);
   fresh.Log("K3ZZZ");
   ASSERT_FALSE(fresh.Desk.Boxes.Shown.empty());
   EXPECT_EQ(fresh.Desk.Boxes.Shown.back().Text,
-            "The log file " + fresh.Ctx->LogFileName + " was missing or cut short. It has been written again from "
+            "The log file " + fresh.Form.Document.FileName + " was missing or cut short. It has been written again from "
                                                       "memory, with 1 QSO.");
-  EXPECT_EQ(CallsOnDisk(fresh.Ctx->LogFileName), std::vector<std::string>{"K3ZZZ"});
+  EXPECT_EQ(CallsOnDisk(fresh.Form.Document.FileName), std::vector<std::string>{"K3ZZZ"});
 }
 
 // The settings file cannot be replaced at exit: the disk is full, or a

@@ -275,15 +275,14 @@ TEST_F(LogFileMenuTest, RecentFilesNewestFirstAndCancelKeepsTheLog) {
 
   desk.Boxes.Answers.push_back(MsgAnswer::Yes);
   form.mnuFileArray_Click(3);
-  EXPECT_EQ(ctx->LogFileName, names[2]);
+  EXPECT_EQ(form.Document.FileName, names[2]);
   EXPECT_EQ(ctx->Config.RecentFile[1], names[2]);
 
   Log("K3ZZZ");
   desk.Boxes.Answers.push_back(MsgAnswer::Yes);
   form.mnuFileOpenLog_Click();  // the dialog is cancelled
-  EXPECT_TRUE(ctx->DialogCancelled);
   EXPECT_EQ(ctx->Log.QSOCount, 2);
-  EXPECT_EQ(ctx->LogFileName, names[2]);
+  EXPECT_EQ(form.Document.FileName, names[2]);
 
   // Exit from an unnamed log with No removes the temporary file.
   desk.Boxes.Answers = {MsgAnswer::Yes};  // start a new one

@@ -153,7 +153,7 @@ TEST_F(ProcessEntryTest, AllAsianAgeMustBeZeroToNinetyNine) {
 TEST_F(ProcessEntryTest, TheLogHoldsEightThousandQsos) {
   NewLog(Generic);
   ctx->Log.QSOCount = 8000;
-  std::filesystem::resize_file(ctx->LogFileName, 8000 * QsoRecordSize);  // the file of 7999 QSOs
+  std::filesystem::resize_file(form.Document.FileName, 8000 * QsoRecordSize);  // the file of 7999 QSOs
   Enter("K3ZZZ", "");
   EXPECT_TRUE(desk.Boxes.Shown.empty());
   EXPECT_EQ(ctx->Log.QSOCount, 8001);
