@@ -29,7 +29,8 @@ class UserInfoTest : public ::testing::Test {
     for (const TextBox& box : form->Textinfo) out += box.Text + "|";
     return out;
   }
-  const MessageBoxRequest& LastBox() const { return boxes.Shown.back(); }
+  // The title and text of the last message box.
+  std::string LastBox() const { return boxes.Shown.back().Title + ": " + boxes.Shown.back().Text; }
 
   Settings s;
   UserInfoClipboard clipboard;
@@ -69,37 +70,32 @@ TEST_F(UserInfoTest, SwitchingKeepsTheShownValuesAndOkSavesCancelDoesNot) {
   f.ComboUserProfile_Click(3);
   EXPECT_EQ(s.UserProfile[2].Operators, "W6XX W6YY");
   EXPECT_EQ(Boxes(), "K4ABC||||||||||op4@example.org|");
-  EXPECT_EQ(s.CurrentUserProfile, 4);
-  EXPECT_EQ(s.CurrentUserProfileName, "Field Day");
+  EXPECT_EQ(std::to_string(s.CurrentUserProfile) + " " + s.CurrentUserProfileName, "4 Field Day");
   EXPECT_EQ(writes, 0);
 
   f.Textinfo_Change(8, " K3 ");
   f.mnuPostUserSave_Click();
   EXPECT_EQ(s.UserProfile[4].Rig, "K3");
-  EXPECT_EQ(writes, 1);
-  EXPECT_TRUE(f.Visible);
+  EXPECT_TRUE(writes == 1 && f.Visible);
 
   f.Textinfo_Change(9, "Dipole");
   f.CmdCancel_Click();
   EXPECT_EQ(s.UserProfile[4].Ant, "");
-  EXPECT_FALSE(f.Visible);
-  EXPECT_EQ(writes, 1);
+  EXPECT_TRUE(writes == 1 && !f.Visible);
 
   UserInfo& g = Open();
   g.Textinfo_Change(9, "Dipole ");
   g.CmdOK_Click();
   EXPECT_EQ(s.UserProfile[4].Ant, "Dipole");
-  EXPECT_FALSE(g.Visible);
-  EXPECT_EQ(writes, 2);
+  EXPECT_TRUE(writes == 2 && !g.Visible);
 }
 
 TEST_F(UserInfoTest, CopyAndPasteAskFirst) {
   UserInfo& f = Open();
   f.mnuPostUserPaste_Click();  // nothing copied yet; the default answer is No
-  const MessageBoxRequest& ask = LastBox();
-  EXPECT_EQ(ask.Text, "Do you want to replace the User Data on the displayed Profile?");
-  EXPECT_EQ(ask.Title, "Warning -- Information will be overwritten");
-  EXPECT_EQ(ask.Buttons, MsgButtons::YesNo);
+  EXPECT_EQ(LastBox(), "Warning -- Information will be overwritten: Do you want to replace the User Data on the "
+                       "displayed Profile?");
+  EXPECT_EQ(boxes.Shown.back().Buttons, MsgButtons::YesNo);
   EXPECT_EQ(Boxes(), "K2ABC||||||||||op2@example.org|");
 
   boxes.Answers.push_back(MsgAnswer::Yes);
@@ -133,29 +129,26 @@ TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
 
   f.TextRename_Change("    ");
   f.CmdRenameOK_Click();
-  EXPECT_EQ(LastBox().Text, "Blank Names are not allowed.  Try again.");
-  EXPECT_EQ(LastBox().Title, "Error -- Blank Name");
+  EXPECT_EQ(LastBox(), "Error -- Blank Name: Blank Names are not allowed.  Try again.");
   f.TextRename_Change(" Guest ");
   f.CmdRenameOK_Click();
-  EXPECT_EQ(LastBox().Text, "The new name is the same as that of another User Profile.  Choose another name.");
-  EXPECT_EQ(LastBox().Title, "Error -- Duplicate Name");
-  EXPECT_TRUE(f.TextRename.Visible);
+  EXPECT_EQ(LastBox(), "Error -- Duplicate Name: The new name is the same as that of another User Profile.  "
+                       "Choose another name.");
+  EXPECT_TRUE(f.TextRename.Visible && writes == 0);
   EXPECT_EQ(s.UserProfile[2].ProfileName, "Club");
-  EXPECT_EQ(writes, 0);
 
   f.TextRename_Change("Club");  // its own name
   f.CmdRenameOK_Click();
   EXPECT_EQ(boxes.Shown.size(), 2u);
-  EXPECT_EQ(writes, 1);
-  EXPECT_TRUE(f.ComboUserProfile.Visible);
+  EXPECT_TRUE(writes == 1 && f.ComboUserProfile.Visible);
 
   f.mnuPostUserRename_Click();
   f.TextRename_Change("Contest Club Station 1");
   f.CmdRenameOK_Click();
-  EXPECT_EQ(s.UserProfile[2].ProfileName, "Contest Club Station");  // 20 characters
-  EXPECT_EQ(f.ComboUserProfile.Items[1], "Contest Club Station");
+  // 20 characters
+  EXPECT_EQ(s.UserProfile[2].ProfileName + "|" + f.ComboUserProfile.Items[1] + "|" + s.CurrentUserProfileName,
+            "Contest Club Station|Contest Club Station|Contest Club Station");
   EXPECT_EQ(f.ComboUserProfile.ListIndex, 1);
-  EXPECT_EQ(s.CurrentUserProfileName, "Contest Club Station");
   EXPECT_EQ(f.LabelUserProfile.Caption, "User Profile:");
   EXPECT_EQ(writes, 2);
 
