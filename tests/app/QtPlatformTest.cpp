@@ -14,22 +14,16 @@
 namespace tarnix {
 namespace {
 
-TEST(QtConvertTest, PipeFiltersBecomeQtNameFilters) {
-  EXPECT_EQ(NameFiltersFromPipes("TNX logs (*.TNX)|*.TNX|All files (*.*)|*.*"),
-            (QStringList{"TNX logs (*.TNX)", "All files (*)"}));
-  EXPECT_EQ(NameFiltersFromPipes("Text (*.txt;*.log)|*.txt;*.log"), (QStringList{"Text (*.txt *.log)"}));
+TEST(QtConvertTest, PipeFiltersBecomeQtNameFiltersAndModelColoursAreBlueGreenRed) {
   // The pattern half is what filters, whatever the description shows.
-  EXPECT_EQ(NameFiltersFromPipes("TNX logs (*.TNX)|*.TN?"), (QStringList{"TNX logs (*.TN?)"}));
-  EXPECT_EQ(NameFiltersFromPipes("Cabrillo|*.LOG"), (QStringList{"Cabrillo (*.LOG)"}));
-  EXPECT_EQ(NameFiltersFromPipes("*.TNX"), (QStringList{"*.TNX"}));
-  EXPECT_EQ(NameFiltersFromPipes(""), QStringList());
-}
-
-TEST(QtConvertTest, ModelColoursAreBlueGreenRed) {
-  EXPECT_EQ(ColourFromBgr(255), QColor(255, 0, 0));
-  EXPECT_EQ(ColourFromBgr(16711680), QColor(0, 0, 255));
-  EXPECT_EQ(ColourFromBgr(0x00C08040), QColor(0x40, 0x80, 0xC0));
-  EXPECT_EQ(ColourFromBgr(14737632), QColor(224, 224, 224));
+  const std::pair<const char*, QStringList> filters[] = {
+      {"TNX logs (*.TNX)|*.TNX|All files (*.*)|*.*", {"TNX logs (*.TNX)", "All files (*)"}},
+      {"Text (*.txt;*.log)|*.txt;*.log", {"Text (*.txt *.log)"}}, {"TNX logs (*.TNX)|*.TN?", {"TNX logs (*.TN?)"}},
+      {"Cabrillo|*.LOG", {"Cabrillo (*.LOG)"}}, {"*.TNX", {"*.TNX"}}, {"", {}}};
+  for (const auto& [pipes, names] : filters) EXPECT_EQ(NameFiltersFromPipes(pipes), names) << pipes;
+  for (auto [bgr, colour] : {std::pair{255, QColor(255, 0, 0)}, {16711680, QColor(0, 0, 255)},
+                             {0x00C08040, QColor(0x40, 0x80, 0xC0)}, {14737632, QColor(224, 224, 224)}})
+    EXPECT_EQ(ColourFromBgr(bgr), colour) << bgr;
 }
 
 // Shows a box, answers it with one key, and returns what Show gave.
