@@ -57,7 +57,6 @@ class ChCoFormViewTest : public ::testing::Test {
     return out;
   }
   QGroupBox& Frame(int i) { return Child<QGroupBox>(view, QStringLiteral("Frame%1").arg(i)); }
-
   ContestState state;
   bool cancelled = true;
   ChCoForm model{state, cancelled};
@@ -91,7 +90,6 @@ TEST_F(ChCoFormViewTest, CqwwShowsTheQthFrameAndTheThirdOptionEnablesTheContinen
   ClickOption(Qth(2));
   EXPECT_EQ(QthChecked(), "001");
   EXPECT_TRUE(combo.isEnabled());
-
   // Up from NA is EU; OK stores it and closes the dialog.
   combo.setFocus();
   QTest::keyClick(&combo, Qt::Key_Up);
@@ -123,7 +121,6 @@ TEST(QtFormHostTest, RunsTheRegisteredDialogModallyUntilTheModelHidesAndClosesAF
   host.ShowModal(unregistered);  // no dialog registered: closed by its frame
   EXPECT_FALSE(unregistered.Visible);
   EXPECT_TRUE(cancelled);
-
   RegisterDialogViews(host);
   EXPECT_TRUE(host.Has("ChCoForm") && host.Has("BandMode"));
   ChCoForm chooser(state, cancelled);
@@ -151,7 +148,6 @@ class BandModeViewTest : public ::testing::Test {
     view.show();
   }
   QCheckBox& Band(int row) { return Child<QCheckBox>(view, QStringLiteral("BandBox%1").arg(row)); }
-
   ContestState state = GenericBands();
   ScriptedMessageBoxes boxes;
   BandMode model{state, boxes};

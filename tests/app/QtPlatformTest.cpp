@@ -45,12 +45,10 @@ TEST(QtMessageBoxesTest, EnterGivesTheDefaultAndEscapeTheHarmlessAnswer) {
   EXPECT_EQ(AnswerWithKey(yesNo, Qt::Key_Escape, &shown), MsgAnswer::No);
   yesNo.Default = MsgAnswer::No;
   EXPECT_EQ(AnswerWithKey(yesNo, Qt::Key_Return, &shown), MsgAnswer::No);
-
   MessageBoxRequest save{"Save current log file?", "Save Log?", MsgButtons::YesNoCancel, MsgIcon::Question,
                          MsgAnswer::Yes};
   EXPECT_EQ(AnswerWithKey(save, Qt::Key_Escape, &shown), MsgAnswer::Cancel);
   EXPECT_EQ(shown, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-
   MessageBoxRequest error{"Disk full", "Log File Error", MsgButtons::AbortRetryIgnore, MsgIcon::Critical,
                           MsgAnswer::Retry};
   EXPECT_EQ(AnswerWithKey(error, Qt::Key_Return, &shown), MsgAnswer::Retry);
@@ -66,10 +64,8 @@ TEST(QtTimersTest, TicksOnlyWhileEnabledWithAnInterval) {
   QTest::qWait(60);
   EXPECT_TRUE(timer->Enabled());
   EXPECT_EQ(ticks, 0);
-
   timer->SetInterval(10);
   EXPECT_TRUE(QTest::qWaitFor([&ticks] { return ticks >= 3; }, 2000));
-
   timer->SetEnabled(false);
   EXPECT_FALSE(timer->Enabled());
   int stopped = ticks;

@@ -27,7 +27,6 @@ TEST(CountrySeedFilter, DropsWholeCallEntriesAndKeepsTheRest) {
                 "Conway Reef:              32:  56:  OC:  -22.00:  -175.00:   -12.0:  3D2/c:\n"
                 "Canada:                   05:  09:  NA:   44.35:    78.75:     5.0:  VE:\n"
                 "    CF,VE,VE3(4)[4],VY1(1)[2];\n");
-
   // A long list is broken after a "," and reads back entry for entry.
   std::string many = "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n    ";
   for (int n = 0; n < 40; ++n) many += "L" + std::to_string(n) + "(14),=L" + std::to_string(n) + "X,";
@@ -45,7 +44,6 @@ TEST(CountrySeedFilter, PackageListReadsBackWithinTheBounds) {
   int headers = 0;
   std::istringstream lines(full);
   for (std::string line; std::getline(lines, line);) headers += !line.empty() && line.back() == ':';
-
   std::string seeded = MakeSeedCountryFile(full);
   EXPECT_EQ(seeded.find('=', seeded.find('\n')), std::string::npos);  // the comment line names "="
   auto data = std::make_unique<CountryData>();
@@ -70,16 +68,13 @@ TEST(CountrySeedFolder, WritesMissingFilesAndNeverReplacesTheOperatorsOwn) {
   WriteFile(root.Path + "source/cty.dat", "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n  L,=L1A;\n");
   WriteFile(root.Path + "source/MASTER.SCP", "K1ABC\nW1AW\n");
   const std::string app = root.Path + "app/", source = root.Path + "source";
-
   EXPECT_EQ(SeedCountryFile(app, source), std::nullopt);
   EXPECT_EQ(ReadFile(app + "cty.dat"), Comment + "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n    L;\n");
   EXPECT_EQ(ReadFile(app + "master.scp"), "K1ABC\nW1AW\n");
-
   WriteFile(app + "cty.dat", "mine\n");
   std::filesystem::remove(app + "master.scp");
   EXPECT_EQ(SeedCountryFile(app, source), std::nullopt);
   EXPECT_EQ(ReadFile(app + "cty.dat") + ReadFile(app + "master.scp"), "mine\nK1ABC\nW1AW\n");
-
   std::filesystem::remove(app + "cty.dat");
   std::filesystem::remove(app + "master.scp");
   EXPECT_EQ(SeedCountryFile(app, root.Path + "nowhere"),

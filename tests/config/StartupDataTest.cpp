@@ -37,7 +37,6 @@ TEST(StartupData, ReadsSectionsAmongNotesInAnyOrderAndOneItemShortSwallowsTheNex
             std::vector<int>({14025, 10120, 10110}));
   EXPECT_EQ(data.CWCharacters[1] + "|" + data.CWCharacters[42], "13|2");
   EXPECT_EQ(data.MultList[1], "");  // a section the file lacks stays empty
-
   std::vector<std::string> short41(Morse.begin(), Morse.end() - 1);
   data = {};
   result = ParseStartupData("[CW Characters]\n" + CrLfLines(short41) + BandSection, "t.dat", data);
@@ -162,7 +161,6 @@ TEST_F(StartupDataShipped, NoFormBelongsToTwoRowsAndNoMapSpotToTwoNames) {
   EXPECT_EQ(distinctForms(SSSectionPlace, SSSectionRows, fromMultList), "");
   EXPECT_EQ(distinctForms(1, PAQPMultRows, [](int r) { return Data.PAQPMults[static_cast<std::size_t>(r)]; }), "");
   EXPECT_EQ(std::set<std::string>(Data.SSShortForms.begin() + 1, Data.SSShortForms.end()).size(), 80u);
-
   auto distinctSpots = [](const auto& xs, const auto& ys) {
     std::set<std::pair<int, int>> spots;
     for (std::size_t i = 1; i < xs.size(); ++i)

@@ -31,7 +31,6 @@ class UserInfoTest : public ::testing::Test {
   }
   // The title and text of the last message box.
   std::string LastBox() const { return boxes.Shown.back().Title + ": " + boxes.Shown.back().Text; }
-
   Settings s;
   UserInfoClipboard clipboard;
   ScriptedMessageBoxes boxes;
@@ -56,10 +55,8 @@ TEST_F(UserInfoTest, OpensOnTheCurrentProfile) {
                 f.mnuPostUserCopy.Caption + "|" + f.mnuPostUserPaste.Caption,
             "Profile Operations|Save Profile|Rename Profile|Copy User Info|Paste User Info");
   EXPECT_FALSE(f.TextRename.Visible || f.CmdRenameOK.Visible || f.CmdRenameCancel.Visible);
-
   f.Textinfo_Change(0, "VE3ABCDEFGHIJKL");
   EXPECT_EQ(f.Textinfo[0].Text, "VE3ABCDEFGHI");  // cut at 12
-
   s.CurrentUserProfile = 0;
   EXPECT_EQ(Open().ComboUserProfile.ListIndex, 0);
 }
@@ -72,17 +69,14 @@ TEST_F(UserInfoTest, SwitchingKeepsTheShownValuesAndOkSavesCancelDoesNot) {
   EXPECT_EQ(Boxes(), "K4ABC||||||||||op4@example.org|");
   EXPECT_EQ(std::to_string(s.CurrentUserProfile) + " " + s.CurrentUserProfileName, "4 Field Day");
   EXPECT_EQ(writes, 0);
-
   f.Textinfo_Change(8, " K3 ");
   f.mnuPostUserSave_Click();
   EXPECT_EQ(s.UserProfile[4].Rig, "K3");
   EXPECT_TRUE(writes == 1 && f.Visible);
-
   f.Textinfo_Change(9, "Dipole");
   f.CmdCancel_Click();
   EXPECT_EQ(s.UserProfile[4].Ant, "");
   EXPECT_TRUE(writes == 1 && !f.Visible);
-
   UserInfo& g = Open();
   g.Textinfo_Change(9, "Dipole ");
   g.CmdOK_Click();
@@ -97,12 +91,10 @@ TEST_F(UserInfoTest, CopyAndPasteAskFirst) {
                        "displayed Profile?");
   EXPECT_EQ(boxes.Shown.back().Buttons, MsgButtons::YesNo);
   EXPECT_EQ(Boxes(), "K2ABC||||||||||op2@example.org|");
-
   boxes.Answers.push_back(MsgAnswer::Yes);
   f.mnuPostUserPaste_Click();
   EXPECT_EQ(Boxes(), "|||||||||||");
   EXPECT_EQ(s.UserProfile[2].Callsign + s.UserProfile[2].Email, "");
-
   f.ComboUserProfile_Click(0);
   f.Textinfo_Change(3, " Ann ");
   f.mnuPostUserCopy_Click();
@@ -126,7 +118,6 @@ TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
   EXPECT_TRUE(f.TextRename.Visible && f.CmdRenameOK.Visible && f.CmdRenameCancel.Visible);
   EXPECT_EQ(f.TextRename.Text, "Club");
   EXPECT_EQ(f.TextRename.SelStart * 100 + f.TextRename.SelLength, 4);
-
   f.TextRename_Change("    ");
   f.CmdRenameOK_Click();
   EXPECT_EQ(LastBox(), "Error -- Blank Name: Blank Names are not allowed.  Try again.");
@@ -136,12 +127,10 @@ TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
                        "Choose another name.");
   EXPECT_TRUE(f.TextRename.Visible && writes == 0);
   EXPECT_EQ(s.UserProfile[2].ProfileName, "Club");
-
   f.TextRename_Change("Club");  // its own name
   f.CmdRenameOK_Click();
   EXPECT_EQ(boxes.Shown.size(), 2u);
   EXPECT_TRUE(writes == 1 && f.ComboUserProfile.Visible);
-
   f.mnuPostUserRename_Click();
   f.TextRename_Change("Contest Club Station 1");
   f.CmdRenameOK_Click();
@@ -151,7 +140,6 @@ TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
   EXPECT_EQ(f.ComboUserProfile.ListIndex, 1);
   EXPECT_EQ(f.LabelUserProfile.Caption, "User Profile:");
   EXPECT_EQ(writes, 2);
-
   f.mnuPostUserRename_Click();
   f.TextRename_Change("Dropped");
   f.CmdRenameCancel_Click();

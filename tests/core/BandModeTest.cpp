@@ -14,7 +14,6 @@ class BandModeTest : public ::testing::Test {
   ContestState state;
   ScriptedMessageBoxes boxes;
   std::optional<BandMode> form;
-
   // Opens the form as the host does; rows 1..12 enabled given as digits.
   BandMode& Open(int contest, int bandIndex, const std::string& rows) {
     state.ContestIndex = static_cast<int16_t>(contest);
@@ -55,7 +54,6 @@ TEST_F(BandModeTest, OkRefusesNoBandAndTheCurrentBandTakesAValidChoiceAndCancelR
             "Band Selection Error: At least one band must be selected for the program to work.");
   EXPECT_EQ(Rows(true) + "|" + Rows(false), "111111000000|111111000000");
   EXPECT_TRUE(f.Visible);
-
   struct Row { int contest; int bandIndex; int row; };
   const Row rows[] = {{ArrlDx, 3, 3}, {ArrlDx, 11, 3}, {Generic, 21, 9}};  // 20m CW, 20m SSB, 12m CW
   for (const Row& r : rows) {
@@ -69,7 +67,6 @@ TEST_F(BandModeTest, OkRefusesNoBandAndTheCurrentBandTakesAValidChoiceAndCancelR
               "Band Selection Error: No fair -- Can't delete current band.");
     EXPECT_TRUE(g.BandBox[r.row].Value && state.BandEnabled[r.row] && g.Visible) << r.bandIndex;
   }
-
   boxes.Shown.clear();
   BandMode& h = Open(Generic, 3, "111111000000");
   h.BandBox_Click(1);
@@ -79,7 +76,6 @@ TEST_F(BandModeTest, OkRefusesNoBandAndTheCurrentBandTakesAValidChoiceAndCancelR
   EXPECT_TRUE(boxes.Shown.empty());
   EXPECT_FALSE(h.Visible);
   EXPECT_EQ(Rows(false), "011111001000");
-
   BandMode& k = Open(Generic, 3, "111111000000");
   k.BandBox_Click(1);
   k.BandBox_Click(10);

@@ -62,7 +62,6 @@ TEST(LogHeader, NewLogHeaderForEveryKindOfContest) {
   for (const Row& row : rows) {
     auto bytes = EncodeHeader(MakeHeader(row.state));
     EXPECT_EQ(std::string(bytes.begin(), bytes.end()), HeaderBytes(row.contest5, row.qth)) << row.name;
-
     // Reading the header back gives the contest, mode and location chosen.
     ContestState read;
     bool wide = false;
@@ -118,7 +117,6 @@ TEST(LogHeader, ReadingOldAndForeignHeadersAndTheRecordLengthByShape) {
   EXPECT_EQ(s.ContestIndex, Cqww);
   // A garbage header shorter than 26 bytes reads as blanks and zeros.
   EXPECT_TRUE(read(std::string("\x07\x01GE", 4), cqww).UnknownContest);
-
   for (auto [wideLog, contest, length] : {std::tuple{true, Sprint, 60}, {false, Sprint, 36}, {false, Naqp, 36},
                                          {false, Generic, 36}, {false, Cqww, 26}})
     EXPECT_EQ(RecordLengthOf(wideLog, contest), length) << contest;

@@ -69,7 +69,6 @@ TEST(LogStore, ResetClearsCountersAndIndexAndTablesRefuseSubscriptsOutsideTheirB
   EXPECT_EQ(log->CallIndexCount + log->TotalQSOPoints + log->TotalMults, 0);
   EXPECT_EQ(log->BandQSOs[3] + log->BandPoints[24] + log->BandMults[1], 0);
   EXPECT_EQ(log->BandMinutes[9], 0.0f);
-
   EXPECT_NO_THROW(log->LogRecords.At(8000));
   EXPECT_NO_THROW(log->CallSum.At(7999));
   EXPECT_NO_THROW(log->LogRecordsMid.At(5000));

@@ -55,7 +55,7 @@ TEST(QsoRecord, EncodesAllThreeShapesAndDecodingFillsWhatAShortRecordLacks) {
   EXPECT_EQ(DecodeRecord(std::span<const char>()), QsoRecord{});
 }
 
-TEST(QsoRecord, TenCharacterCallFillsTheFieldAndLongerIsCut) {
+TEST(QsoRecord, TenCharacterCallFillsTheFieldLongerIsCutAndIntegersAreLittleEndian) {
   QsoRecord r;
   r.QCall.Set("VE3ABCDEFG");
   r.QNumber = 7;
@@ -63,9 +63,7 @@ TEST(QsoRecord, TenCharacterCallFillsTheFieldAndLongerIsCut) {
   EXPECT_EQ(std::string(disk.data() + 6, 12), "VE3ABCDEFG" + Bytes({0x07, 0x00}));
   r.QCall.Set("VE3ABCDEFGH");
   EXPECT_EQ(r.QCall.Str(), "VE3ABCDEFG");
-}
-
-TEST(QsoRecord, SixteenBitIntegersAreLittleEndian) {
+  // Sixteen-bit integers are little-endian.
   struct Row { int16_t value; int low, high; };
   const Row rows[] = {{0, 0x00, 0x00},   {1, 0x01, 0x00},     {-1, 0xFF, 0xFF},    {255, 0xFF, 0x00},
                       {256, 0x00, 0x01}, {32767, 0xFF, 0x7F}, {-32768, 0x00, 0x80}};

@@ -52,7 +52,6 @@ TEST(FakeClock, TimersFireInTimeOrderOnlyWhileEnabled) {
   EXPECT_EQ(advance(1), "A1300 B1500 A1600 A1900 B2000 ");
   b->SetEnabled(false);
   EXPECT_EQ(advance(600), "A1300 B1500 A1600 A1900 B2000 A2200 A2500 ");
-
   // A tick sees its own moment and may stop its timer.
   std::string seen;
   std::unique_ptr<Timer> t = clock.CreateTimer([&] {

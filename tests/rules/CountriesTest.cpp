@@ -125,7 +125,6 @@ TEST(CountriesReader, DamagedOrOversizedFilesStopWithTheMessageAndKeepWhatWasRea
   EXPECT_EQ(result.Detail.rfind("test.dat, line 15: ", 0), 0u) << result.Detail;
   EXPECT_EQ(std::tuple(data->CountryCount, data->CountryRowK), std::tuple(5, 0));
   EXPECT_EQ(Find(*data, "K6BA"), "3|0|K6BA");  // what was read is searchable
-
   std::string text;
   for (int n = 1; n <= 351; ++n) text += "Land " + std::to_string(n) + ": 1: 1: EU: 0: 0: 0: L:\n";
   data = Read(text, result);
@@ -215,7 +214,7 @@ TEST_F(CountriesOnSeededList, IndexedLookupEqualsThePlainScan) {
   EXPECT_GT(calls.size(), 5000u);
 }
 
-TEST(CountriesWpx, PrefixOfEveryCallShape) {
+TEST(CountriesPrefixes, WpxPrefixOfEveryCallShapeNAZoneByCallAreaAndClassOfWorkedPrefix) {
   const std::pair<const char*, const char*> cases[] = {
       {"K3ZZZ", "K3"},      {"3D2XY", "3D2"},       {"ABCD", "AB0"},       {"K3ZZZ/P", "K3"},   {"K3ZZZ/KH6", "KH6"},
       {"VP2E/K3ZZZ", "VP2E"}, {"K3ZZZ/3", "K3"},    {"W6XYZ/3", "W3"},     {"K3ZZZ/MM", "K3"},  {"K3ZZZ/N", "K3"},
@@ -223,9 +222,6 @@ TEST(CountriesWpx, PrefixOfEveryCallShape) {
       {"4XAB", "4X0"},      {"K", "K0"},            {"C6AXX", "C6"},       {"C6A/K3ZZZ", "C6"}, {"KH6XX/AM", "AM0"},
       {"K3ZZZ/VP2E", "VP2E"}, {"3/K1ABC", "3/K3"}};  // a digit in front also loses the last two characters
   for (auto [call, prefix] : cases) EXPECT_EQ(GetWPXPrefix(call), prefix) << call;
-}
-
-TEST(CountriesNA, ZoneByCallAreaAndClassOfWorkedPrefix) {
   const std::pair<const char*, int> zones[] = {
       {"VY1AA", 1}, {"VE8AA", 1}, {"VO2AA", 2}, {"VY2AA", 2}, {"VO1AA", 5}, {"VE3AA", 4}, {"VE7AA", 3}, {"XK9A", 5},
       {"K6AA", 3},  {"W1AW", 5},  {"N0AA", 4},  {"AA5B", 4},  {"AJ1A", 5},  {"K1", 5},    {"A1", 0},    {"AH6A", 0},
@@ -254,7 +250,6 @@ TEST(CountriesHeading, EveryQuadrantAndTheNameLine) {
   const int expected[] = {0, 0, 90, 180, 270, 44, 135, 225, 316};  // NE: atan(0.98481) is 44.56 degrees
   for (int row = 0; row <= 8; ++row) EXPECT_EQ(GetHeading(*data, station, row), expected[row]) << row;
   EXPECT_EQ(GetHeading(*data, station, 351), 999);
-
   station.StationLatitude = 41.71f;  // Newington, Connecticut
   station.StationLongitude = -72.73f;
   EXPECT_EQ(GetHeading(*data, station, 9), 336);  // Japan: h is -24.76
@@ -262,7 +257,6 @@ TEST(CountriesHeading, EveryQuadrantAndTheNameLine) {
   station.StationLatitude = 0;  // the cache is kept for the whole run
   EXPECT_EQ(NameHeadingLine(*data, station, 10), "Name: Fed. Rep. of Germany Hdg: 49");
   EXPECT_EQ(data->CountryTable[10].Heading, "49");
-
   data->CountryTable[5].Name = "United States of America";
   station.StationLongitude = 0;
   EXPECT_EQ(NameHeadingLine(*data, station, 5), "Name: United States of AmerHdg: 44");
