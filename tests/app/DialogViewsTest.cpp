@@ -65,12 +65,21 @@ class ChCoFormViewTest : public ::testing::Test {
   QComboBox& combo = Child<QComboBox>(view, "ComboQTH");
 };
 
-TEST_F(ChCoFormViewTest, ShowsTheContestListWithTheModelsSelectionAndEscapeIsTheFormsCancel) {
+TEST_F(ChCoFormViewTest, ShowsTheModelsListClickingAnOptionItRefusesChangesNothingAndEscapeCancels) {
   ASSERT_EQ(list.count(), ContestCount);
   for (int row = 0; row < list.count(); ++row)
     EXPECT_EQ(list.item(row)->text().toStdString(), model.List1.Items[static_cast<std::size_t>(row)]);
   EXPECT_EQ(list.currentRow(), 3);
   EXPECT_FALSE(Frame(2).isVisible());
+  // The CW Open has no phone: its option is shown but disabled.
+  ClickRow(list, ChCoForm::PositionOfContest(CwOpen));
+  QRadioButton& phone = Child<QRadioButton>(view, "ButtonMode0");
+  QRadioButton& cw = Child<QRadioButton>(view, "ButtonMode1");
+  EXPECT_FALSE(phone.isEnabled());
+  ClickOption(phone);
+  EXPECT_TRUE(!phone.isChecked() && cw.isChecked());
+  ClickOption(cw);  // the option already set stays set
+  EXPECT_TRUE(cw.isChecked() && model.ButtonMode[1].Value);
   QTest::keyClick(&view, Qt::Key_Escape);
   EXPECT_TRUE(cancelled);
   EXPECT_FALSE(model.Visible || view.isVisible());
@@ -99,18 +108,6 @@ TEST_F(ChCoFormViewTest, CqwwShowsTheQthFrameAndTheThirdOptionEnablesTheContinen
   EXPECT_EQ(view.result(), QDialog::Accepted);
   EXPECT_EQ(state.ContestIndex, Cqww);
   EXPECT_EQ(state.StationContinent, "EU");
-}
-
-TEST_F(ChCoFormViewTest, ClickingAnOptionTheModelRefusesChangesNothing) {
-  // The CW Open has no phone: its option is shown but disabled.
-  ClickRow(list, ChCoForm::PositionOfContest(CwOpen));
-  QRadioButton& phone = Child<QRadioButton>(view, "ButtonMode0");
-  QRadioButton& cw = Child<QRadioButton>(view, "ButtonMode1");
-  EXPECT_FALSE(phone.isEnabled());
-  ClickOption(phone);
-  EXPECT_TRUE(!phone.isChecked() && cw.isChecked());
-  ClickOption(cw);  // the option already set stays set
-  EXPECT_TRUE(cw.isChecked() && model.ButtonMode[1].Value);
 }
 
 TEST(QtFormHostTest, RunsTheRegisteredDialogModallyUntilTheModelHidesAndClosesAFormWithNone) {

@@ -29,6 +29,14 @@ class UserInfoTest : public ::testing::Test {
     for (const TextBox& box : form->Textinfo) out += box.Text + "|";
     return out;
   }
+  void Paste(MsgAnswer answer) {
+    boxes.Answers.push_back(answer);
+    form->mnuPostUserPaste_Click();
+  }
+  void Rename(const char* name) {
+    form->TextRename_Change(name);
+    form->CmdRenameOK_Click();
+  }
   // The title and text of the last message box.
   std::string LastBox() const { return boxes.Shown.back().Title + ": " + boxes.Shown.back().Text; }
   Settings s;
@@ -91,23 +99,19 @@ TEST_F(UserInfoTest, CopyAndPasteAskFirst) {
                        "displayed Profile?");
   EXPECT_EQ(boxes.Shown.back().Buttons, MsgButtons::YesNo);
   EXPECT_EQ(Boxes(), "K2ABC||||||||||op2@example.org|");
-  boxes.Answers.push_back(MsgAnswer::Yes);
-  f.mnuPostUserPaste_Click();
+  Paste(MsgAnswer::Yes);
   EXPECT_EQ(Boxes(), "|||||||||||");
   EXPECT_EQ(s.UserProfile[2].Callsign + s.UserProfile[2].Email, "");
   f.ComboUserProfile_Click(0);
   f.Textinfo_Change(3, " Ann ");
   f.mnuPostUserCopy_Click();
   f.ComboUserProfile_Click(2);
-  boxes.Answers.push_back(MsgAnswer::No);
-  f.mnuPostUserPaste_Click();
+  Paste(MsgAnswer::No);
   EXPECT_EQ(s.UserProfile[3].Name, "");
-  boxes.Answers.push_back(MsgAnswer::Yes);
-  f.mnuPostUserPaste_Click();
+  Paste(MsgAnswer::Yes);
   EXPECT_EQ(Boxes(), "K1ABC|||Ann|||||||op1@example.org|");
   EXPECT_EQ(s.UserProfile[3].Name + " " + s.UserProfile[3].Callsign, "Ann K1ABC");
-  EXPECT_EQ(boxes.Shown.size(), 4u);
-  EXPECT_EQ(writes, 0);
+  EXPECT_TRUE(boxes.Shown.size() == 4 && writes == 0);
 }
 
 TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
@@ -118,28 +122,21 @@ TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
   EXPECT_TRUE(f.TextRename.Visible && f.CmdRenameOK.Visible && f.CmdRenameCancel.Visible);
   EXPECT_EQ(f.TextRename.Text, "Club");
   EXPECT_EQ(f.TextRename.SelStart * 100 + f.TextRename.SelLength, 4);
-  f.TextRename_Change("    ");
-  f.CmdRenameOK_Click();
+  Rename("    ");
   EXPECT_EQ(LastBox(), "Error -- Blank Name: Blank Names are not allowed.  Try again.");
-  f.TextRename_Change(" Guest ");
-  f.CmdRenameOK_Click();
+  Rename(" Guest ");
   EXPECT_EQ(LastBox(), "Error -- Duplicate Name: The new name is the same as that of another User Profile.  "
                        "Choose another name.");
   EXPECT_TRUE(f.TextRename.Visible && writes == 0);
   EXPECT_EQ(s.UserProfile[2].ProfileName, "Club");
-  f.TextRename_Change("Club");  // its own name
-  f.CmdRenameOK_Click();
-  EXPECT_EQ(boxes.Shown.size(), 2u);
-  EXPECT_TRUE(writes == 1 && f.ComboUserProfile.Visible);
+  Rename("Club");  // its own name
+  EXPECT_TRUE(boxes.Shown.size() == 2 && writes == 1 && f.ComboUserProfile.Visible);
   f.mnuPostUserRename_Click();
-  f.TextRename_Change("Contest Club Station 1");
-  f.CmdRenameOK_Click();
-  // 20 characters
+  Rename("Contest Club Station 1");  // kept to 20 characters
   EXPECT_EQ(s.UserProfile[2].ProfileName + "|" + f.ComboUserProfile.Items[1] + "|" + s.CurrentUserProfileName,
             "Contest Club Station|Contest Club Station|Contest Club Station");
-  EXPECT_EQ(f.ComboUserProfile.ListIndex, 1);
+  EXPECT_TRUE(f.ComboUserProfile.ListIndex == 1 && writes == 2);
   EXPECT_EQ(f.LabelUserProfile.Caption, "User Profile:");
-  EXPECT_EQ(writes, 2);
   f.mnuPostUserRename_Click();
   f.TextRename_Change("Dropped");
   f.CmdRenameCancel_Click();
