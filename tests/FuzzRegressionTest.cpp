@@ -12,8 +12,6 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
-#include <fstream>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -28,49 +26,51 @@ namespace fs = std::filesystem;
 struct Case {
   std::string Harness;  // the folder's name
   fs::path Input;
+  friend void PrintTo(const Case& c, std::ostream* out) { *out << c.Input.string(); }
 };
-
-void PrintTo(const Case& c, std::ostream* out) { *out << c.Input.string(); }
 
 // Every file of root/HARNESS/, but the expected results (".out"), sorted.
 std::vector<Case> CasesUnder(const fs::path& root) {
   std::vector<Case> cases;
   std::error_code error;
-  for (const auto& folder : fs::directory_iterator(root, error)) {
-    if (!folder.is_directory()) continue;
-    for (const auto& file : fs::directory_iterator(folder.path()))
-      if (file.is_regular_file() && file.path().extension() != ".out")
-        cases.push_back({folder.path().filename().string(), file.path()});
-  }
+  for (const auto& folder : fs::directory_iterator(root, error))
+    if (folder.is_directory())
+      for (const auto& file : fs::directory_iterator(folder.path()))
+        if (file.is_regular_file() && file.path().extension() != ".out")
+          cases.push_back({folder.path().filename().string(), file.path()});
   std::sort(cases.begin(), cases.end(), [](const Case& a, const Case& b) { return a.Input < b.Input; });
   return cases;
 }
 
 std::string CaseName(const ::testing::TestParamInfo<Case>& info) {
   std::string name = info.param.Harness + "_" + info.param.Input.stem().string();
-  for (char& c : name)
-    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+  std::replace_if(name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
   return name;
+}
+
+// The harness's outcome for the case's input, which must break no promise.
+std::string SummaryOf(const Case& c) {
+  const Harness* harness = HarnessNamed(c.Harness);
+  if (!harness) {
+    ADD_FAILURE() << "no harness " << c.Harness;
+    return "";
+  }
+  Outcome outcome = harness->Run(ReadFile(c.Input));
+  EXPECT_EQ(outcome.Fault, "");
+  return outcome.Summary;
 }
 
 class FuzzRegression : public ::testing::TestWithParam<Case> {};
 
 TEST_P(FuzzRegression, GivesTheKeptResult) {
-  const Case& c = GetParam();
-  const Harness* harness = HarnessNamed(c.Harness);
-  ASSERT_NE(harness, nullptr) << "no harness " << c.Harness;
-  fs::path expectedPath = c.Input;
-  expectedPath.replace_extension(".out");
-  ASSERT_TRUE(fs::exists(expectedPath)) << expectedPath << " is missing";
-  Outcome outcome = harness->Run(ReadFile(c.Input));
-  EXPECT_EQ(outcome.Fault, "");
-  EXPECT_EQ(outcome.Summary, ReadFile(expectedPath));
+  fs::path expected = GetParam().Input;
+  expected.replace_extension(".out");
+  ASSERT_TRUE(fs::exists(expected)) << expected << " is missing";
+  EXPECT_EQ(SummaryOf(GetParam()), ReadFile(expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(Inputs, FuzzRegression, ::testing::ValuesIn(CasesUnder(TARNIX_FUZZ_REGRESSIONS)), CaseName);
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(FuzzRegression);
-
-class FuzzSeed : public ::testing::TestWithParam<Case> {};
 
 // What each reader says of a file it takes: the start of its summary, or for
 // the exchanges and the keys a logged QSO.
@@ -81,13 +81,11 @@ bool Accepted(const std::string& harness, const std::string& summary) {
   return summary.starts_with("read");
 }
 
+class FuzzSeed : public ::testing::TestWithParam<Case> {};
+
 TEST_P(FuzzSeed, IsReadWhole) {
-  const Case& c = GetParam();
-  const Harness* harness = HarnessNamed(c.Harness);
-  ASSERT_NE(harness, nullptr) << "no harness " << c.Harness;
-  Outcome outcome = harness->Run(ReadFile(c.Input));
-  EXPECT_EQ(outcome.Fault, "");
-  EXPECT_TRUE(Accepted(c.Harness, outcome.Summary)) << outcome.Summary;
+  std::string summary = SummaryOf(GetParam());
+  EXPECT_TRUE(Accepted(GetParam().Harness, summary)) << summary;
 }
 
 INSTANTIATE_TEST_SUITE_P(Corpus, FuzzSeed, ::testing::ValuesIn(CasesUnder(TARNIX_FUZZ_CORPUS)), CaseName);

@@ -1,52 +1,37 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <memory>
-#include <optional>
 #include <sstream>
 #include <string>
 
+#include "TestFiles.h"
 #include "config/CountrySeed.h"
+#include "platform/FileStore.h"
 #include "rules/Countries.h"
 
 namespace tarnix {
 namespace {
 
-namespace fs = std::filesystem;
-
-std::string ReadText(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
-void WriteText(const fs::path& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+const std::string Comment = "' Country list: every header and prefix, without the whole-call (\"=\") entries\n";
 
 TEST(CountrySeedFilter, DropsWholeCallEntriesAndKeepsTheRest) {
-  const std::string full =
-      "Conway Reef:              32:  56:  OC:  -22.00:  -175.00:   -12.0:  3D2/c:\r\n"
-      "    =3D20CR,=3D2C,\r\n"
-      "    =3D2CR;\r\n"
-      "' a comment\r\n"
-      "Canada:                   05:  09:  NA:   44.35:    78.75:     5.0:  VE:\r\n"
-      "    CF,=VE2EM/M,VE,\r\n"
-      "    =VER20230502,VE3(4)[4],=4Y1CAO[4],=CY0S(1)[2],VY1(1)[2];\r\n";
-  EXPECT_EQ(MakeSeedCountryFile(full),
-            "' Country list: every header and prefix, without the whole-call (\"=\") entries\n"
-            "Conway Reef:              32:  56:  OC:  -22.00:  -175.00:   -12.0:  3D2/c:\n"
-            "Canada:                   05:  09:  NA:   44.35:    78.75:     5.0:  VE:\n"
-            "    CF,VE,VE3(4)[4],VY1(1)[2];\n");
-
+  EXPECT_EQ(MakeSeedCountryFile("Conway Reef:              32:  56:  OC:  -22.00:  -175.00:   -12.0:  3D2/c:\r\n"
+                                "    =3D20CR,=3D2C,\r\n"
+                                "    =3D2CR;\r\n"
+                                "' a comment\r\n"
+                                "Canada:                   05:  09:  NA:   44.35:    78.75:     5.0:  VE:\r\n"
+                                "    CF,=VE2EM/M,VE,\r\n"
+                                "    =VER20230502,VE3(4)[4],=4Y1CAO[4],=CY0S(1)[2],VY1(1)[2];\r\n"),
+            Comment +
+                "Conway Reef:              32:  56:  OC:  -22.00:  -175.00:   -12.0:  3D2/c:\n"
+                "Canada:                   05:  09:  NA:   44.35:    78.75:     5.0:  VE:\n"
+                "    CF,VE,VE3(4)[4],VY1(1)[2];\n");
   // A long list is broken after a "," and reads back entry for entry.
   std::string many = "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n    ";
   for (int n = 0; n < 40; ++n) many += "L" + std::to_string(n) + "(14),=L" + std::to_string(n) + "X,";
-  many += "LZ;\n";
-  std::string seeded = MakeSeedCountryFile(many);
   auto data = std::make_unique<CountryData>();
-  ASSERT_TRUE(ReadCountryText(seeded, "seed", *data).Ok);
+  ASSERT_TRUE(ReadCountryText(MakeSeedCountryFile(many + "LZ;\n"), "seed", *data).Ok);
   ASSERT_EQ(data->PrefixCount, 41);
   EXPECT_EQ(data->PrefixTable[1] + data->PrefixTable[40] + data->PrefixTable[41], "L0(14)*1L39(14)*1LZ*1");
 }
@@ -54,13 +39,11 @@ TEST(CountrySeedFilter, DropsWholeCallEntriesAndKeepsTheRest) {
 // The package's list: every country, every prefix, no whole call, and within
 // the bounds of the tables.
 TEST(CountrySeedFilter, PackageListReadsBackWithinTheBounds) {
-  std::string full = ReadText(fs::path(HamradioFilesDir) / "cty.dat");
+  std::string full = ReadFile(std::string(HamradioFilesDir) + "cty.dat");
   if (full.empty()) GTEST_SKIP() << "hamradio-files is not installed";
   int headers = 0;
   std::istringstream lines(full);
-  for (std::string line; std::getline(lines, line);)
-    if (!line.empty() && line.back() == ':') ++headers;
-
+  for (std::string line; std::getline(lines, line);) headers += !line.empty() && line.back() == ':';
   std::string seeded = MakeSeedCountryFile(full);
   EXPECT_EQ(seeded.find('=', seeded.find('\n')), std::string::npos);  // the comment line names "="
   auto data = std::make_unique<CountryData>();
@@ -79,31 +62,24 @@ TEST(CountrySeedFilter, PackageListReadsBackWithinTheBounds) {
 }
 
 TEST(CountrySeedFolder, WritesMissingFilesAndNeverReplacesTheOperatorsOwn) {
-  fs::path root = fs::temp_directory_path() / ("tarnix-seed-" + std::to_string(::getpid()));
-  fs::create_directories(root / "source");
-  fs::create_directories(root / "app");
-  WriteText(root / "source" / "cty.dat", "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n  L,=L1A;\n");
-  WriteText(root / "source" / "MASTER.SCP", "K1ABC\nW1AW\n");
-  const std::string app = (root / "app").string() + "/", source = (root / "source").string();
-
+  TempFolder root;
+  std::filesystem::create_directories(root.Path + "source");
+  std::filesystem::create_directories(root.Path + "app");
+  WriteFile(root.Path + "source/cty.dat", "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n  L,=L1A;\n");
+  WriteFile(root.Path + "source/MASTER.SCP", "K1ABC\nW1AW\n");
+  const std::string app = root.Path + "app/", source = root.Path + "source";
   EXPECT_EQ(SeedCountryFile(app, source), std::nullopt);
-  EXPECT_EQ(ReadText(root / "app" / "cty.dat"),
-            "' Country list: every header and prefix, without the whole-call (\"=\") entries\n"
-            "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n    L;\n");
-  EXPECT_EQ(ReadText(root / "app" / "master.scp"), "K1ABC\nW1AW\n");
-
-  WriteText(root / "app" / "cty.dat", "mine\n");
-  fs::remove(root / "app" / "master.scp");
+  EXPECT_EQ(ReadFile(app + "cty.dat"), Comment + "Land:  1:  1:  EU:  0.00:  0.00:  0.0:  L:\n    L;\n");
+  EXPECT_EQ(ReadFile(app + "master.scp"), "K1ABC\nW1AW\n");
+  WriteFile(app + "cty.dat", "mine\n");
+  std::filesystem::remove(app + "master.scp");
   EXPECT_EQ(SeedCountryFile(app, source), std::nullopt);
-  EXPECT_EQ(ReadText(root / "app" / "cty.dat") + ReadText(root / "app" / "master.scp"), "mine\nK1ABC\nW1AW\n");
-
-  fs::remove(root / "app" / "cty.dat");
-  fs::remove(root / "app" / "master.scp");
-  EXPECT_EQ(SeedCountryFile(app, (root / "nowhere").string()),
-            "Can't read " + (root / "nowhere" / "cty.dat").string() + "\nCan't read " +
-                (root / "nowhere" / "MASTER.SCP").string());
-  EXPECT_FALSE(fs::exists(root / "app" / "cty.dat") || fs::exists(root / "app" / "master.scp"));
-  fs::remove_all(root);
+  EXPECT_EQ(ReadFile(app + "cty.dat") + ReadFile(app + "master.scp"), "mine\nK1ABC\nW1AW\n");
+  std::filesystem::remove(app + "cty.dat");
+  std::filesystem::remove(app + "master.scp");
+  EXPECT_EQ(SeedCountryFile(app, root.Path + "nowhere"),
+            "Can't read " + root.Path + "nowhere/cty.dat\nCan't read " + root.Path + "nowhere/MASTER.SCP");
+  EXPECT_FALSE(std::filesystem::exists(app + "cty.dat") || std::filesystem::exists(app + "master.scp"));
 }
 
 }  // namespace

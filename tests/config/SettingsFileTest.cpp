@@ -1,28 +1,23 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <regex>
 #include <sstream>
 #include <string>
-#include <unistd.h>
+#include <tuple>
 #include <vector>
 
+#include "TestFiles.h"
 #include "config/AppPath.h"
 #include "config/SettingsFile.h"
+#include "platform/FileStore.h"
 
 namespace tarnix {
 namespace {
 
 namespace fs = std::filesystem;
 const std::string AppFolder = "/home/op/tarnix/";
-
-std::string Lines(std::initializer_list<std::string> lines) {
-  std::string out;
-  for (const std::string& line : lines) out += line + "\r\n";
-  return out;
-}
 
 SettingsResult Parse(const std::string& text, Settings& s) { return ParseSettings(text, "tarnix125.ini", s, AppFolder); }
 
@@ -34,229 +29,181 @@ std::string SectionOf(const std::string& text, const std::string& header) {
   return text.substr(start, end == std::string::npos ? std::string::npos : end + 2 - start);
 }
 
-std::string FileBytes(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
+void ExpectFound(const std::string& text, std::initializer_list<std::string> parts) {
+  for (const std::string& part : parts) EXPECT_NE(text.find(part), std::string::npos) << part;
 }
 
-std::string Shipped() { return FileBytes(ShippedDataDir() + "/tarnix125.ini"); }
+// Each line stands whole, CR LF before and after, in the text.
+void ExpectLines(const std::string& text, std::initializer_list<std::string> lines) {
+  for (const std::string& line : lines) ExpectFound(text, {"\r\n" + line + "\r\n"});
+}
 
-struct TempDir {
-  fs::path Path = fs::temp_directory_path() / ("tarnix-settings-" + std::to_string(getpid()));
-  TempDir() { fs::create_directories(Path); }
-  ~TempDir() { fs::remove_all(Path); }
-};
+std::string Shipped() { return ReadFile(ShippedDataDir() + "/tarnix125.ini"); }
 
 TEST(SettingsFile, SplitKeyValueTrimsAndKeepsLaterEqualSigns) {
   std::string key = "old", value = "kept";
-  EXPECT_FALSE(SplitKeyValue("no equal sign", key, value));
-  EXPECT_EQ(key + "|" + value, "old|kept");
-  EXPECT_TRUE(SplitKeyValue("Radio1ComActivated = False", key, value));
-  EXPECT_EQ(key + "|" + value, "Radio1ComActivated|False");
-  EXPECT_TRUE(SplitKeyValue("  ExchangeGeneric =  5NN = 599 ", key, value));
-  EXPECT_EQ(key + "|" + value, "ExchangeGeneric|5NN = 599");
+  for (auto [line, split, after] : {std::tuple{"no equal sign", false, "old|kept"},
+                                    {"Radio1ComActivated = False", true, "Radio1ComActivated|False"},
+                                    {"  ExchangeGeneric =  5NN = 599 ", true, "ExchangeGeneric|5NN = 599"}}) {
+    EXPECT_EQ(SplitKeyValue(line, key, value), split) << line;
+    EXPECT_EQ(key + "|" + value, after);
+  }
 }
 
 TEST(SettingsFile, RadioInformationKeepsBothFalseForms) {
   Settings s;
-  s.Radio1ComActivated = true;
-  s.CWActivated = true;
-  ASSERT_TRUE(Parse(Lines({"[Radio Information]", "Radio1ComActivated = False", "Radio2ComActivated=True",
-                           "Radio(2).DTRHigh=True", "[Preferences]", "CWActivated=true"}), s).Ok);
-  EXPECT_FALSE(s.Radio1ComActivated);
-  EXPECT_TRUE(s.Radio2ComActivated);
-  EXPECT_FALSE(s.CWActivated);  // only the exact word True
+  s.Radio1ComActivated = s.CWActivated = true;
+  ASSERT_TRUE(Parse(CrLfLines({"[Radio Information]", "Radio1ComActivated = False", "Radio2ComActivated=True",
+                               "Radio(2).DTRHigh=True", "[Preferences]", "CWActivated=true"}), s).Ok);
+  EXPECT_TRUE(!s.Radio1ComActivated && s.Radio2ComActivated && !s.CWActivated);  // only the exact word True
   std::string text = SettingsText(s);
   EXPECT_EQ(SectionOf(text, "[Radio Information]"),
-            Lines({"[Radio Information]", "Radio1ComActivated = False", "Radio2ComActivated=True",
-                   "Radio1ComPollInterval=0", "Radio2ComPollInterval=0", "RadioSwapDelayMsec=0", "",
-                   "Radio1ComPort=", "Radio2ComPort=", "Radio(1).Name=", "Radio(1).Address=", "Radio(1).BaudRate=0",
-                   "Radio(1).WordLen=0", "Radio(1).Parity=", "Radio(1).StopBits=0", "Radio(1).DTRHigh = False",
-                   "Radio(1).RTSHigh = False", "", "Radio(2).Name=", "Radio(2).Address=", "Radio(2).BaudRate=0",
-                   "Radio(2).WordLen=0", "Radio(2).Parity=", "Radio(2).StopBits=0", "Radio(2).DTRHigh=True",
-                   "Radio(2).RTSHigh = False", ""}));
-  EXPECT_NE(text.find("\r\nRadioDefaultSettings.DTRHigh=False\r\n"), std::string::npos);
+            CrLfLines({"[Radio Information]", "Radio1ComActivated = False", "Radio2ComActivated=True",
+                       "Radio1ComPollInterval=0", "Radio2ComPollInterval=0", "RadioSwapDelayMsec=0", "",
+                       "Radio1ComPort=", "Radio2ComPort=", "Radio(1).Name=", "Radio(1).Address=", "Radio(1).BaudRate=0",
+                       "Radio(1).WordLen=0", "Radio(1).Parity=", "Radio(1).StopBits=0", "Radio(1).DTRHigh = False",
+                       "Radio(1).RTSHigh = False", "", "Radio(2).Name=", "Radio(2).Address=", "Radio(2).BaudRate=0",
+                       "Radio(2).WordLen=0", "Radio(2).Parity=", "Radio(2).StopBits=0", "Radio(2).DTRHigh=True",
+                       "Radio(2).RTSHigh = False", ""}));
+  ExpectLines(text, {"RadioDefaultSettings.DTRHigh=False"});
   EXPECT_EQ(text.find("RadioDefaultSettings.DTRHigh = False"), std::string::npos);
 }
 
-TEST(SettingsFile, NumbersTakeTheirPrefixRoundedAndPrintShortest) {
+TEST(SettingsFile, NumbersTakeTheirPrefixRoundedAndWordsTheirExactForm) {
   Settings s;
   s.YourCall = "K1ABC";
   s.RepeatIntervalCW = 2500;
-  ASSERT_TRUE(Parse(Lines({"[Preferences]", "Radio1Delay=7 steps", "Radio2Delay=abc", "DualCQsPlayNumber=2.5",
-                           "DualCQsRepeatInterval=3.5", "K3MsgLengthAdjustment=-12", "StationLatitude=39.5N",
-                           "StationLongitude=-122.25", "RepeatIntervalSSB=3000", "Weight=2.5"}), s).Ok);
-  EXPECT_EQ(s.Radio1Delay, 7);
-  EXPECT_EQ(s.Radio2Delay, 0);
-  EXPECT_EQ(s.DualCQsPlayNumber, 2);
-  EXPECT_EQ(s.DualCQsRepeatInterval, 4);
-  EXPECT_EQ(s.K3MsgLengthAdjustment, -12);
-  EXPECT_EQ(s.RepeatIntervalCW, 1000);  // preset before reading
-  EXPECT_EQ(s.RepeatIntervalSSB, 3000);
-  EXPECT_EQ(s.YourCall, "K1ABC");       // absent key: untouched
-  std::string text = SettingsText(s);
-  for (const char* line : {"\r\nStationLatitude=39.5\r\n", "\r\nStationLongitude=-122.25\r\n", "\r\nWeight=2.5\r\n",
-                           "\r\nK3MsgLengthAdjustment=-12\r\n", "\r\nRepeatIntervalCW=1000\r\n"})
-    EXPECT_NE(text.find(line), std::string::npos) << line;
-
-  struct Row { const char* weight; const char* method; float weightAfter; const char* methodAfter; };
-  const Row rows[] = {{"4.5", "VBTimer", 4.5f, "VBTimer"}, {"2.5", "Math", 2.5f, "Math"},
-                      {"4.51", "queryperf", 3.0f, "Winmm"}, {"2.49", "", 3.0f, "Winmm"},
-                      {"heavy", "QueryPerf", 3.0f, "QueryPerf"}};
+  s.UseDTRtoKey[2] = DtrPTT;
+  ASSERT_TRUE(Parse(CrLfLines({"[Preferences]", "Radio1Delay=7 steps", "Radio2Delay=abc", "DualCQsPlayNumber=2.5",
+                               "DualCQsRepeatInterval=3.5", "K3MsgLengthAdjustment=-12", "StationLatitude=39.5N",
+                               "StationLongitude=-122.25", "RepeatIntervalSSB=3000", "Weight=2.5",
+                               "UseDTRtoKey(1)=DVKMicSwitch", "UseDTRtoKey(2)=cw", "IsGMTFlag=true",
+                               "[DVK Settings]", "DVKCallExchMode=MixedMode"}), s).Ok);
+  EXPECT_EQ(std::tuple(s.Radio1Delay, s.Radio2Delay, s.DualCQsPlayNumber, s.DualCQsRepeatInterval),
+            std::tuple(7, 0, 2, 4));
+  // RepeatIntervalCW was preset before reading; YourCall's key is absent.
+  EXPECT_EQ(std::tuple(s.K3MsgLengthAdjustment, s.RepeatIntervalCW, s.RepeatIntervalSSB, s.YourCall),
+            std::tuple(-12, 1000, 3000, "K1ABC"));
+  EXPECT_EQ(std::tuple(s.UseDTRtoKey[1], s.UseDTRtoKey[2], s.DVKCallExchMode),
+            std::tuple(DtrDVKMicSwitch, DtrPTT, DvkMixedMode));  // an unknown word leaves UseDTRtoKey(2)
+  ExpectLines(SettingsText(s), {"StationLatitude=39.5", "StationLongitude=-122.25", "Weight=2.5",
+                                "K3MsgLengthAdjustment=-12", "RepeatIntervalCW=1000", "UseDTRtoKey(1)=DVKMicSwitch",
+                                "UseDTRtoKey(2)=PTT", "IsGMTFlag=False", "DVKCallExchMode=MixedMode"});
+  ASSERT_TRUE(Parse(CrLfLines({"[Preferences]", "IsGMTFlag=True", "[DVK Settings]", "DVKCallExchMode=Fast"}), s).Ok);
+  EXPECT_EQ(s.DVKCallExchMode, DvkAlwaysNormal);
+  ExpectLines(SettingsText(s), {"IsGMTFlag=True"});
+  auto file = [](std::string weight, std::string method) {
+    return CrLfLines({"[Preferences]", "Weight=" + weight, "TimingMethod=" + method});
+  };
+  struct Row { std::string text; float weight; const char* method; };
+  const Row rows[] = {{file("4.5", "VBTimer"), 4.5f, "VBTimer"}, {file("2.5", "Math"), 2.5f, "Math"},
+                      {file("4.51", "queryperf"), 3.0f, "Winmm"}, {file("2.49", ""), 3.0f, "Winmm"},
+                      {file("heavy", "QueryPerf"), 3.0f, "QueryPerf"}, {"", 3.0f, "Winmm"}};
   for (const Row& r : rows) {
     Settings t;
-    ASSERT_TRUE(Parse(Lines({"[Preferences]", std::string("Weight=") + r.weight,
-                             std::string("TimingMethod=") + r.method}), t).Ok);
-    EXPECT_EQ(t.Weight, r.weightAfter) << r.weight;
-    EXPECT_EQ(t.TimingMethod, r.methodAfter) << r.method;
+    ASSERT_TRUE(Parse(r.text, t).Ok);
+    EXPECT_EQ(t.Weight, r.weight) << r.text;
+    EXPECT_EQ(t.TimingMethod, r.method) << r.text;
   }
-  Settings none;
-  ASSERT_TRUE(Parse("", none).Ok);
-  EXPECT_EQ(none.Weight, 3.0f);
-  EXPECT_EQ(none.TimingMethod, "Winmm");
 }
 
-TEST(SettingsFile, WordsAndTheGmtFlag) {
-  Settings s;
-  s.UseDTRtoKey[2] = DtrPTT;
-  ASSERT_TRUE(Parse(Lines({"[Preferences]", "UseDTRtoKey(1)=DVKMicSwitch", "UseDTRtoKey(2)=cw", "IsGMTFlag=true",
-                           "[DVK Settings]", "DVKCallExchMode=MixedMode"}), s).Ok);
-  EXPECT_EQ(s.UseDTRtoKey[1], DtrDVKMicSwitch);
-  EXPECT_EQ(s.UseDTRtoKey[2], DtrPTT);  // an unknown word leaves it
-  EXPECT_EQ(s.DVKCallExchMode, DvkMixedMode);
-  std::string text = SettingsText(s);
-  for (const char* line : {"\r\nUseDTRtoKey(1)=DVKMicSwitch\r\n", "\r\nUseDTRtoKey(2)=PTT\r\n",
-                           "\r\nIsGMTFlag=False\r\n", "\r\nDVKCallExchMode=MixedMode\r\n"})
-    EXPECT_NE(text.find(line), std::string::npos) << line;
-  ASSERT_TRUE(Parse(Lines({"[Preferences]", "IsGMTFlag=True", "[DVK Settings]", "DVKCallExchMode=Fast"}), s).Ok);
-  EXPECT_EQ(s.DVKCallExchMode, DvkAlwaysNormal);
-  EXPECT_NE(SettingsText(s).find("\r\nIsGMTFlag=True\r\n"), std::string::npos);
-}
-
-TEST(SettingsFile, PositionalSectionsTakeRowsByPlace) {
-  Settings s;
-  std::string text = Lines({"[CW Macros - 03]", "[RADIO2][PLAY3]CQ", "[RAD junk", "CQ TEST", "", "4", "5", "6", "7",
-                            "8", "9", "@ 5NN", "CQ TEST", "  @ WKD B4  ", "[CW Macros Display Forms - 13]", "CQ",
-                            "[Window Information - 07]", "LOGFORM OPEN 100 200 3000 4000",
-                            "ABCDEFGHIJKLMNOPQRSTUVWXYZ NORMALX -1 2 3.5 4 twips", "ONLYNAME"});
-  ASSERT_TRUE(Parse(text, s).Ok);
-  const auto& m = s.CWMacro[3];
-  EXPECT_EQ(m[1], "[RADIO2][PLAY3]CQ");
-  EXPECT_EQ(m[2], "[RAD junk");
-  EXPECT_EQ(m[3], "[RADIO0][PLAY1]CQ TEST");
-  EXPECT_EQ(m[4], "[RADIO0][PLAY1]4");  // the empty line is no row
-  EXPECT_EQ(m[9], "[RADIO0][PLAY1]9");
-  EXPECT_EQ(m[10] + "|" + m[11] + "|" + m[12], "@ 5NN|CQ TEST|@ WKD B4");
-  EXPECT_EQ(s.CWMacroDisplay[13][1], "CQ");
-  EXPECT_EQ(s.WindowInfo[7][1], (WindowRow{"LOGFORM", "OPEN", 200, 100, 3000, 4000}));
-  EXPECT_EQ(s.WindowInfo[7][2], (WindowRow{"ABCDEFGHIJKLMNOPQRST", "NORMAL", 2, -1, 4, 4}));
-  EXPECT_EQ(s.WindowInfo[7][3], (WindowRow{"ONLYNAME", "", 0, 0, 0, 0}));
-  std::string written = SettingsText(s);
-  EXPECT_NE(written.find(Lines({"[Window Information - 07]", "LOGFORM OPEN 100 200 3000 4000",
-                                "ABCDEFGHIJKLMNOPQRST NORMAL -1 2 4 4"})), std::string::npos);
-  EXPECT_NE(written.find("\r\n[RADIO0][PLAY1]9\r\n@ 5NN\r\nCQ TEST\r\n@ WKD B4\r\n\r\n[CW Macros - 04]\r\n"),
-            std::string::npos);
-}
-
-// A row without a name, or without name and state, is written with its
-// blanks in front, which the reader trims away: the numbers must stay
-// numbers when it is read back. A short line whose Top is a word is still
+// Rows by place. A window row without a name, or without name and state, is
+// written with its blanks in front, which the reader trims away: the numbers
+// must stay numbers when read back. A short line whose Top is a word is still
 // read from the left.
-TEST(SettingsFile, WindowRowsWithoutNameReadBackAsWritten) {
+TEST(SettingsFile, PositionalSectionsTakeRowsByPlaceAndReadBackAsWritten) {
   Settings s;
+  ASSERT_TRUE(Parse(CrLfLines({"[CW Macros - 03]", "[RADIO2][PLAY3]CQ", "[RAD junk", "CQ TEST", "", "4", "5", "6",
+                               "7", "8", "9", "@ 5NN", "CQ TEST", "  @ WKD B4  ", "[CW Macros Display Forms - 13]",
+                               "CQ", "[Window Information - 07]", "LOGFORM OPEN 100 200 3000 4000",
+                               "ABCDEFGHIJKLMNOPQRSTUVWXYZ NORMALX -1 2 3.5 4 twips", "ONLYNAME",
+                               "[Window Information - 05]", "LOGFORM OPEN 100 200 3000", "VIEWMULT OPEN 5 6",
+                               "1 2 3 4 5"}), s).Ok);
+  const auto& m = s.CWMacro[3];  // the empty line is no row
+  EXPECT_EQ(m[1] + "|" + m[2] + "|" + m[3] + "|" + m[4] + "|" + m[9],
+            "[RADIO2][PLAY3]CQ|[RAD junk|[RADIO0][PLAY1]CQ TEST|[RADIO0][PLAY1]4|[RADIO0][PLAY1]9");
+  EXPECT_EQ(m[10] + "|" + m[11] + "|" + m[12] + "|" + s.CWMacroDisplay[13][1], "@ 5NN|CQ TEST|@ WKD B4|CQ");
+  using Rows = std::vector<WindowRow>;
+  EXPECT_EQ(Rows(&s.WindowInfo[7][1], &s.WindowInfo[7][4]),
+            (Rows{{"LOGFORM", "OPEN", 200, 100, 3000, 4000}, {"ABCDEFGHIJKLMNOPQRST", "NORMAL", 2, -1, 4, 4},
+                  {"ONLYNAME", "", 0, 0, 0, 0}}));
+  EXPECT_EQ(Rows(&s.WindowInfo[5][1], &s.WindowInfo[5][4]),
+            (Rows{{"LOGFORM", "OPEN", 200, 100, 3000, 0}, {"VIEWMULT", "OPEN", 6, 5, 0, 0}, {"", "1", 3, 2, 4, 5}}));
   s.WindowInfo[2][1] = {"", "", 10, 20, 30, 40};
   s.WindowInfo[2][2] = {"", "MIN", -5, 6, 7, 8};
   s.WindowInfo[2][3] = {"", "7", 1, 2, 3, 4};
   s.WindowInfo[2][4] = {"AUDIO", "", 9, 10, 11, 12};
   std::string written = SettingsText(s);
-  EXPECT_NE(written.find(Lines({"[Window Information - 02]", "  20 10 30 40", " MIN 6 -5 7 8", " 7 2 1 3 4",
-                                "AUDIO  10 9 11 12"})),
-            std::string::npos);
+  ExpectFound(written, {CrLfLines({"[Window Information - 07]", "LOGFORM OPEN 100 200 3000 4000",
+                                   "ABCDEFGHIJKLMNOPQRST NORMAL -1 2 4 4"}),
+                        "\r\n[RADIO0][PLAY1]9\r\n@ 5NN\r\nCQ TEST\r\n@ WKD B4\r\n\r\n[CW Macros - 04]\r\n",
+                        CrLfLines({"[Window Information - 02]", "  20 10 30 40", " MIN 6 -5 7 8", " 7 2 1 3 4",
+                                   "AUDIO  10 9 11 12"})});
   Settings again;
   ASSERT_TRUE(Parse(written, again).Ok);
-  for (int row = 1; row <= 4; ++row) EXPECT_EQ(again.WindowInfo[2][row], s.WindowInfo[2][row]) << row;
-
-  Settings shortRows;
-  ASSERT_TRUE(Parse(Lines({"[Window Information - 05]", "LOGFORM OPEN 100 200 3000", "VIEWMULT OPEN 5 6",
-                           "1 2 3 4 5"}),
-                    shortRows)
-                  .Ok);
-  EXPECT_EQ(shortRows.WindowInfo[5][1], (WindowRow{"LOGFORM", "OPEN", 200, 100, 3000, 0}));
-  EXPECT_EQ(shortRows.WindowInfo[5][2], (WindowRow{"VIEWMULT", "OPEN", 6, 5, 0, 0}));
-  EXPECT_EQ(shortRows.WindowInfo[5][3], (WindowRow{"", "1", 3, 2, 4, 5}));
+  EXPECT_EQ(again.WindowInfo, s.WindowInfo);
 }
 
 TEST(SettingsFile, RadioModelRowsAdvanceOnRtsHigh) {
   std::vector<std::string> lines = {"[Radio User Settings]"};
-  for (int g = 1; g <= 15; ++g) {
-    lines.push_back("RadioUserSettings.Name=M" + std::to_string(g));
-    lines.push_back("RadioUserSettings.BaudRate=" + std::to_string(1200 * g));
-    lines.push_back("RadioUserSettings.RTSHigh=False");
-  }
+  for (int g = 1; g <= 15; ++g)
+    lines.insert(lines.end(), {"RadioUserSettings.Name=M" + std::to_string(g),
+                               "RadioUserSettings.BaudRate=" + std::to_string(1200 * g),
+                               "RadioUserSettings.RTSHigh=False"});
   // A line without "=" handles the key before it again: here RTSHigh, which
   // moves on one more row.
-  for (const char* line : {"[Radio Default Settings]", "RadioDefaultSettings.Name=A", "RadioDefaultSettings.RTSHigh=True",
-                           "stray words", "RadioDefaultSettings.Name=B", "RadioUserSettings.Name=X"})
-    lines.emplace_back(line);
-  std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
+  lines.insert(lines.end(), {"[Radio Default Settings]", "RadioDefaultSettings.Name=A",
+                             "RadioDefaultSettings.RTSHigh=True", "stray words", "RadioDefaultSettings.Name=B",
+                             "RadioUserSettings.Name=X"});
   Settings s;
-  ASSERT_TRUE(Parse(text, s).Ok);
-  EXPECT_EQ(s.RadioUserSettings[13].Name, "M13");
-  EXPECT_EQ(s.RadioUserSettings[14].Name + " " + std::to_string(s.RadioUserSettings[14].BaudRate), "M15 18000");
-  EXPECT_EQ(s.RadioDefaultSettings[1].Name, "A");
-  EXPECT_TRUE(s.RadioDefaultSettings[1].RTSHigh && s.RadioDefaultSettings[2].RTSHigh);
-  EXPECT_EQ(s.RadioDefaultSettings[2].Name, "");
-  EXPECT_EQ(s.RadioDefaultSettings[3].Name, "B");
+  ASSERT_TRUE(Parse(CrLfLines(lines), s).Ok);
+  const auto &u = s.RadioUserSettings, &d = s.RadioDefaultSettings;
+  EXPECT_EQ(u[13].Name + "|" + u[14].Name + " " + std::to_string(u[14].BaudRate), "M13|M15 18000");
+  EXPECT_EQ(d[1].Name + "|" + d[2].Name + "|" + d[3].Name, "A||B");
+  EXPECT_TRUE(d[1].RTSHigh && d[2].RTSHigh);
 }
 
 TEST(SettingsFile, KeysBySectionInAnyOrderAndOldHeaders) {
   Settings s;
-  ASSERT_TRUE(Parse(Lines({"YourCall=BEFOREANYHEADER", "[Preferences]", "SCPSelection=DX", "NoSuchKey=1",
-                           "YourCall=W1AW", "[User Exchange - GENERIC]", "ExchangeGeneric=5NN = 599",
-                           "[User Exchange - CWO]", "ExchangeGeneric=wrong section", "ExchangeCWOName=BOB",
-                           "[preferences]", "YourCall=CASE MATTERS", "[Window Coordinates - CQP, SS, WPX]", "1 2 3 4",
-                           "[User Information]", "YourCall=OLD", "[File Information]", "OpenFilePath=",
-                           "RecentFile4=/logs/b.TNX"}), s).Ok);
-  EXPECT_EQ(s.ExchangeGeneric, "5NN = 599");
-  EXPECT_EQ(s.ExchangeCWOName, "BOB");
-  EXPECT_EQ(s.SCPSelection, "DX");
-  EXPECT_EQ(s.YourCall, "W1AW");
-  EXPECT_EQ(s.OpenFilePath, AppFolder);
-  EXPECT_EQ(s.RecentFile[4], "/logs/b.TNX");
-  ASSERT_TRUE(Parse(Lines({"[File Information]", "OpenFilePath=/logs/"}), s).Ok);
+  ASSERT_TRUE(Parse(CrLfLines({"YourCall=BEFOREANYHEADER", "[Preferences]", "SCPSelection=DX", "NoSuchKey=1",
+                               "YourCall=W1AW", "[User Exchange - GENERIC]", "ExchangeGeneric=5NN = 599",
+                               "[User Exchange - CWO]", "ExchangeGeneric=wrong section", "ExchangeCWOName=BOB",
+                               "[preferences]", "YourCall=CASE MATTERS", "[Window Coordinates - CQP, SS, WPX]",
+                               "1 2 3 4", "[User Information]", "YourCall=OLD", "[File Information]",
+                               "OpenFilePath=", "RecentFile4=/logs/b.TNX"}), s).Ok);
+  EXPECT_EQ(s.ExchangeGeneric + "|" + s.ExchangeCWOName + "|" + s.SCPSelection + "|" + s.YourCall + "|" +
+                s.OpenFilePath + "|" + s.RecentFile[4],
+            "5NN = 599|BOB|DX|W1AW|" + AppFolder + "|/logs/b.TNX");
+  ASSERT_TRUE(Parse(CrLfLines({"[File Information]", "OpenFilePath=/logs/"}), s).Ok);
   EXPECT_EQ(s.OpenFilePath, "/logs/");
 }
 
 TEST(SettingsFile, ProfilesGetNamesAndTheCurrentIndex) {
   Settings s;
-  std::string text = Lines({"[User Profile 1]", "CurrentUserProfileName=Club", "", "UserProfile.ProfileName=Custom Profile 1",
-                            "UserProfile.Callsign=ABCDEFGHIJKLMNO", "[User Profile 3]",
-                            "UserProfile.ProfileName=Custom Profile 3", "[User Profile 4]", "UserProfile.ProfileName=Club"});
+  std::string text = CrLfLines({"[User Profile 1]", "CurrentUserProfileName=Club", "",
+                                "UserProfile.ProfileName=Custom Profile 1", "UserProfile.Callsign=ABCDEFGHIJKLMNO",
+                                "[User Profile 3]", "UserProfile.ProfileName=Custom Profile 3", "[User Profile 4]",
+                                "UserProfile.ProfileName=Club"});
   SettingsResult r = Parse(text, s);
-  ASSERT_TRUE(r.Ok);
-  EXPECT_TRUE(r.ProfilesRenamed);
-  EXPECT_EQ(s.UserProfile[2].ProfileName, "Custom Profile 2");
-  EXPECT_EQ(s.UserProfile[1].Callsign, "ABCDEFGHIJKL");  // 12 characters
+  EXPECT_TRUE(r.Ok && r.ProfilesRenamed);
+  // The callsign keeps 12 characters.
+  EXPECT_EQ(s.UserProfile[2].ProfileName + "|" + s.UserProfile[1].Callsign, "Custom Profile 2|ABCDEFGHIJKL");
   EXPECT_EQ(s.CurrentUserProfile, 4);
-
+  EXPECT_FALSE(Parse(text, s).ProfilesRenamed);  // all named now
   Settings two;
-  r = Parse(Lines({"[User Profile 3]", "UserProfile.ProfileName=Custom Profile 1", "[User Profile 4]",
+  Parse(CrLfLines({"[User Profile 3]", "UserProfile.ProfileName=Custom Profile 1", "[User Profile 4]",
                    "UserProfile.ProfileName=X"}), two);
   EXPECT_EQ(two.UserProfile[1].ProfileName + "|" + two.UserProfile[2].ProfileName, "Custom Profile 2|Custom Profile 3");
   EXPECT_EQ(two.CurrentUserProfile, 0);  // no profile named as the current one
-  EXPECT_NE(SettingsText(two).find("[User Profile 1]\r\nCurrentUserProfileName=Custom Profile 2\r\n\r\n"), std::string::npos);
-  EXPECT_FALSE(Parse(text, s).ProfilesRenamed);  // all named now
+  EXPECT_NE(SettingsText(two).find("[User Profile 1]\r\nCurrentUserProfileName=Custom Profile 2\r\n\r\n"),
+            std::string::npos);
 }
 
 TEST(SettingsFile, BoundsOfTheFormatAreErrorsNotCrashes) {
   std::string twelve;
   for (int i = 1; i <= 12; ++i) twelve += "M" + std::to_string(i) + "\r\n";
   // Each case follows two lines of preferences, so its lines count from 3.
-  struct Row { std::string text; std::string error; };
-  const Row rows[] = {
+  const std::pair<std::string, std::string> rows[] = {
       {"[CW Macros - 01]\r\n" + twelve + "M13\r\n", "line 16: CW message row 13 is beyond the 12 of a set"},
       {"[CW Macros Display Forms - 02]\r\n" + twelve, "line 13: CW display row 10 is beyond the 9 of a set"},
       {"\r\n[Window Information - 13]\r\n" + twelve, "line 13: window row 9 is beyond the 8 of a set"},
@@ -268,17 +215,17 @@ TEST(SettingsFile, BoundsOfTheFormatAreErrorsNotCrashes) {
        "line 5: RadioDefaultSettings.BaudRate=38400 is outside the 16-bit range -32768 to 32767"},
       {"[Window Information - 01]\r\nLOGFORM OPEN 0 40000 1 1\r\n",
        "line 4: window Left=40000 is outside the 16-bit range -32768 to 32767"}};
-  for (const Row& r : rows) {
+  for (const auto& [text, error] : rows) {
     Settings s;
     s.YourCall = "UNCHANGED";
-    SettingsResult result = Parse("[Preferences]\r\nYourCall=CHANGED\r\n" + r.text, s);
+    SettingsResult result = Parse("[Preferences]\r\nYourCall=CHANGED\r\n" + text, s);
     EXPECT_FALSE(result.Ok);
-    EXPECT_EQ(result.Error, "tarnix125.ini " + r.error);
+    EXPECT_EQ(result.Error, "tarnix125.ini " + error);
     EXPECT_EQ(s.YourCall, "UNCHANGED");  // nothing taken from a refused file
   }
 }
 
-TEST(SettingsFile, ShippedFileRoundTripsAndEveryKeyIsRead) {
+TEST(SettingsFile, ShippedFileRoundTripsEveryKeyAndIsAFirstRunSetUp) {
   std::string shipped = Shipped();
   ASSERT_FALSE(shipped.empty());
   EXPECT_EQ(std::count(shipped.begin(), shipped.end(), '\n'), std::count(shipped.begin(), shipped.end(), '\r'));
@@ -289,7 +236,24 @@ TEST(SettingsFile, ShippedFileRoundTripsAndEveryKeyIsRead) {
   std::string expected = shipped;
   expected.replace(expected.find("OpenFilePath=\r\n"), 15, "OpenFilePath=" + AppFolder + "\r\n");
   EXPECT_EQ(SettingsText(s), expected);
-
+  const char* models[] = {"Elecraft K3", "Elecraft Generic", "Icom 756 Pro-A", "Icom 756 Pro-B", "Icom 756 Pro 2-A",
+                          "Icom 756 Pro 2-B", "Icom Generic-A", "Icom Generic-B", "Kenwood TS-570", "Kenwood Generic",
+                          "Yaesu FT-990", "Yaesu FT-1000", "Yaesu Generic", "Yaesu FT-817"};
+  for (int i = 1; i <= RadioModelRows; ++i) {
+    EXPECT_EQ(s.RadioDefaultSettings[i].Name, models[i - 1]);
+    EXPECT_EQ(s.RadioUserSettings[i], s.RadioDefaultSettings[i]);
+  }
+  EXPECT_EQ(s.Radio[1].Name + s.Radio[2].Name + s.Radio1ComPort + "|" + s.YourCall + "|" +
+                s.RadioDefaultSettings[5].Address, "[none][none][none]||64");
+  EXPECT_FALSE(s.CWActivated || s.Radio1ComActivated || s.Radio2ComActivated);
+  for (int set = 1; set <= SettingsContestSets; ++set) {
+    for (int row = 1; row <= CWMacroRows; ++row) {
+      EXPECT_FALSE(s.CWMacro[set][row].empty());  // an empty line would shift the rows below
+      EXPECT_EQ(s.CWMacro[set][row].starts_with("[RADIO0][PLAY1]"), row < 10);
+    }
+    EXPECT_EQ(s.WindowInfo[set][8], (WindowRow{"PARTIAL", "CLOSED", 6000, 2000, 3000, 5900}));
+  }
+  EXPECT_EQ(std::to_string(s.CurrentUserProfile) + "|" + s.UserProfile[4].ProfileName, "1|Profile 4");
   // Turn every False into True, raise every whole number by one and fill
   // every empty value: a key the reader dropped would come back unchanged.
   std::string mutated;
@@ -310,63 +274,11 @@ TEST(SettingsFile, ShippedFileRoundTripsAndEveryKeyIsRead) {
   EXPECT_EQ(SettingsText(t), mutated);
 }
 
-TEST(SettingsFile, ShippedFileIsAFirstRunSetUp) {
-  Settings s;
-  ASSERT_TRUE(Parse(Shipped(), s).Ok);
-  const char* models[] = {"Elecraft K3", "Elecraft Generic", "Icom 756 Pro-A", "Icom 756 Pro-B", "Icom 756 Pro 2-A",
-                          "Icom 756 Pro 2-B", "Icom Generic-A", "Icom Generic-B", "Kenwood TS-570", "Kenwood Generic",
-                          "Yaesu FT-990", "Yaesu FT-1000", "Yaesu Generic", "Yaesu FT-817"};
-  for (int i = 1; i <= RadioModelRows; ++i) {
-    EXPECT_EQ(s.RadioDefaultSettings[i].Name, models[i - 1]);
-    EXPECT_EQ(s.RadioUserSettings[i], s.RadioDefaultSettings[i]);
-  }
-  EXPECT_EQ(s.RadioDefaultSettings[5].Address, "64");
-  EXPECT_EQ(s.Radio[1].Name + s.Radio[2].Name + s.Radio1ComPort, "[none][none][none]");
-  EXPECT_FALSE(s.CWActivated || s.Radio1ComActivated || s.Radio2ComActivated);
-  EXPECT_EQ(s.YourCall, "");
-  for (int set = 1; set <= SettingsContestSets; ++set) {
-    for (int row = 1; row <= CWMacroRows; ++row) {
-      EXPECT_FALSE(s.CWMacro[set][row].empty());  // an empty line would shift the rows below
-      EXPECT_EQ(s.CWMacro[set][row].starts_with("[RADIO0][PLAY1]"), row < 10);
-    }
-    EXPECT_EQ(s.WindowInfo[set][8], (WindowRow{"PARTIAL", "CLOSED", 6000, 2000, 3000, 5900}));
-  }
-  EXPECT_EQ(s.CurrentUserProfile, 1);
-  EXPECT_EQ(s.UserProfile[4].ProfileName, "Profile 4");
-}
-
-TEST(SettingsFile, FilesOnDisk) {
-  TempDir dir;
-  std::string path = (dir.Path / "tarnix125.ini").string();
-  Settings s;
-  ASSERT_TRUE(Parse(Shipped(), s).Ok);
-  s.YourCall = "N6TR";
-  s.StationLatitude = 37.25f;
-  ASSERT_FALSE(WriteSettings(path, s).has_value());
-  EXPECT_EQ(FileBytes(path), SettingsText(s));
-  Settings back;
-  ASSERT_TRUE(ReadSettings(path, back, AppFolder).Ok);
-  EXPECT_EQ(back, s);
-  EXPECT_FALSE(fs::exists(path + ".new"));
-
-  SettingsResult missing = ReadSettings((dir.Path / "none" / "tarnix125.ini").string(), back, AppFolder);
-  EXPECT_FALSE(missing.Ok);
-  EXPECT_EQ(missing.Error, "tarnix125.ini was not found at " + (dir.Path / "none" / "tarnix125.ini").string());
-  EXPECT_EQ(ReadSettings(dir.Path.string(), back, AppFolder).Error, "Can't read " + dir.Path.string() + ": it is a folder");
-  std::optional<std::string> failed = WriteSettings((dir.Path / "none" / "x.ini").string(), s);
-  ASSERT_TRUE(failed.has_value());
-  EXPECT_TRUE(failed->starts_with("Can't write ")) << *failed;
-}
-
 TEST(SettingsFile, TruncatedAndGarbageFilesNeverCrash) {
   std::string shipped = Shipped();
   Settings s;
-  SettingsResult r = Parse(shipped.substr(0, shipped.find("Radio(2).Baud") + 9), s);
-  EXPECT_TRUE(r.Ok);
-  EXPECT_EQ(s.Radio[1].Name, "[none]");
-  EXPECT_EQ(s.Radio[2].Name, "[none]");
-  EXPECT_EQ(s.RadioDefaultSettings[1].Name, "");
-
+  EXPECT_TRUE(Parse(shipped.substr(0, shipped.find("Radio(2).Baud") + 9), s).Ok);
+  EXPECT_EQ(s.Radio[1].Name + s.Radio[2].Name + "|" + s.RadioDefaultSettings[1].Name, "[none][none]|");
   std::mt19937 random(125);
   const std::string alphabet = "[]=\r\n 0123456789-.ABRTadio()CW Macros-UserProfile\0\xff";
   for (int round = 0; round < 300; ++round) {
@@ -390,40 +302,55 @@ TEST(SettingsFile, CaptureKeepsTheWindowsOfTheCurrentContest) {
   EXPECT_EQ(s.WindowInfo[3][2].Left, 32767);
   EXPECT_EQ(s.WindowInfo[3][8], (WindowRow{"PARTIAL", "CLOSED", 800, 80, 1008, 2008}));
   EXPECT_EQ(s.WindowInfo[4], before.WindowInfo[4]);
-
   // A row 8 that is not the partial window's puts it back in every set.
   s.WindowInfo[5][8].WindowName = "OTHER";
   s.WindowInfo[6][8].Top = 1;
   capture.ContestIndex = 5;
-  TempDir dir;
-  ASSERT_FALSE(WriteSettings((dir.Path / "t.ini").string(), s, capture).has_value());
+  TempFolder dir;
+  ASSERT_EQ(WriteSettings(dir.Path + "t.ini", s, capture), std::nullopt);
   EXPECT_EQ(s.WindowInfo[5][1].Left, 100);
   for (int set = 1; set <= SettingsContestSets; ++set)
     EXPECT_EQ(s.WindowInfo[set][8], (WindowRow{"PARTIAL", "CLOSED", 6000, 2000, 3000, 5900})) << set;
-  EXPECT_NE(FileBytes((dir.Path / "t.ini").string()).find("[Window Information - 05]\r\nLOGFORM OPEN 10 100 1001 2001\r\n"),
-            std::string::npos);
+  ExpectFound(ReadFile(dir.Path + "t.ini"), {"[Window Information - 05]\r\nLOGFORM OPEN 10 100 1001 2001\r\n"});
   capture.ContestIndex = 0;  // no log open
   Settings unchanged = s;
   CaptureWindows(s, capture);
   EXPECT_EQ(s, unchanged);
 }
 
-TEST(SettingsFile, SeedingCopiesOnlyMissingFiles) {
-  TempDir dir;
-  fs::create_directories(dir.Path / "data");
-  fs::create_directories(dir.Path / "home");
-  std::ofstream(dir.Path / "data" / "tarnix125.ini") << "stock";
-  std::ofstream(dir.Path / "data" / "tarnix121.dat") << "data";
-  std::string home = (dir.Path / "home").string() + "/";
-  EXPECT_FALSE(SeedProgramFolder(home, (dir.Path / "data").string()).has_value());
-  EXPECT_EQ(FileBytes(home + "tarnix125.ini"), "stock");
-  std::ofstream(home + "tarnix125.ini") << "mine";
-  EXPECT_FALSE(SeedProgramFolder(home, (dir.Path / "data").string()).has_value());
-  EXPECT_EQ(FileBytes(home + "tarnix125.ini"), "mine");
+TEST(SettingsFile, FilesOnDiskAndTheSeedingOfOnlyMissingOnes) {
+  TempFolder dir;
+  std::string path = dir.Path + "tarnix125.ini";
+  Settings s;
+  ASSERT_TRUE(Parse(Shipped(), s).Ok);
+  s.YourCall = "N6TR";
+  s.StationLatitude = 37.25f;
+  ASSERT_EQ(WriteSettings(path, s), std::nullopt);
+  EXPECT_EQ(ReadFile(path), SettingsText(s));
+  EXPECT_FALSE(fs::exists(path + ".new"));
+  Settings back;
+  ASSERT_TRUE(ReadSettings(path, back, AppFolder).Ok);
+  EXPECT_EQ(back, s);
+  SettingsResult missing = ReadSettings(dir.Path + "none/tarnix125.ini", back, AppFolder);
+  EXPECT_FALSE(missing.Ok);
+  EXPECT_EQ(missing.Error, "tarnix125.ini was not found at " + dir.Path + "none/tarnix125.ini");
+  std::string folder = dir.Path.substr(0, dir.Path.size() - 1);
+  EXPECT_EQ(ReadSettings(folder, back, AppFolder).Error, "Can't read " + folder + ": it is a folder");
+  std::string failed = WriteSettings(dir.Path + "none/x.ini", s).value_or("written");
+  EXPECT_TRUE(failed.starts_with("Can't write ")) << failed;
+  fs::create_directories(dir.Path + "data");
+  fs::create_directories(dir.Path + "home");
+  WriteFile(dir.Path + "data/tarnix125.ini", "stock");
+  WriteFile(dir.Path + "data/tarnix121.dat", "data");
+  std::string home = dir.Path + "home/";
+  EXPECT_EQ(SeedProgramFolder(home, dir.Path + "data"), std::nullopt);
+  EXPECT_EQ(ReadFile(home + "tarnix125.ini"), "stock");
+  WriteFile(home + "tarnix125.ini", "mine");
+  EXPECT_EQ(SeedProgramFolder(home, dir.Path + "data"), std::nullopt);
+  EXPECT_EQ(ReadFile(home + "tarnix125.ini"), "mine");
   fs::remove(home + "tarnix125.ini");
-  std::optional<std::string> error = SeedProgramFolder(home, (dir.Path / "nodata").string());
-  ASSERT_TRUE(error.has_value());
-  EXPECT_TRUE(error->starts_with("Can't copy " + (dir.Path / "nodata" / "tarnix125.ini").string() + " to ")) << *error;
+  std::string error = SeedProgramFolder(home, dir.Path + "nodata").value_or("copied");
+  EXPECT_TRUE(error.starts_with("Can't copy " + dir.Path + "nodata/tarnix125.ini to ")) << error;
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "TestFiles.h"
 #include "config/AppPath.h"
 #include "config/StartupData.h"
 #include "core/Contest.h"
@@ -24,42 +23,29 @@ const std::vector<std::string> Morse = {
     "133",   "3113",  "3133",  "3311",   "13333",  "11333", "11133",  "11113", "11111", "31111", "33111",
     "33311", "33331", "33333", "331133", "131313", "31131", "113311", "0",     "2"};
 
-std::string Lines(const std::vector<std::string>& items) {
-  std::string out;
-  for (const std::string& item : items) out += item + "\r\n";
-  return out;
-}
-
 const std::string BandSection =
     "[Band Frequencies]\r\n28025,21025,14025,7025,3525,1825,50100,144100\r\n"
     "28400,21300,14250,7200,3800,1850,50150,144200\r\n24950,18130,10120,0,24903,18083,10110,0\r\n";
 
-TEST(StartupData, ReadsSectionsAmongNotesInAnyOrder) {
+TEST(StartupData, ReadsSectionsAmongNotesInAnyOrderAndOneItemShortSwallowsTheNextName) {
   StartupData data;
   std::string text = "Notes before the first section are skipped.\n\n" + BandSection +
-                     "a stray line\n   [CW Characters]  \n" + Lines(Morse) + "\n[After] the last section\n";
+                     "a stray line\n   [CW Characters]  \n" + CrLfLines(Morse) + "\n[After] the last section\n";
   StartupDataResult result = ParseStartupData(text, "t.dat", data);
   ASSERT_TRUE(result.Ok) << result.Detail;
-  EXPECT_EQ(data.BandFrequencies[3], 14025);
-  EXPECT_EQ(data.BandFrequencies[19], 10120);
-  EXPECT_EQ(data.BandFrequencies[23], 10110);
-  EXPECT_EQ(data.CWCharacters[1], "13");
-  EXPECT_EQ(data.CWCharacters[42], "2");
+  EXPECT_EQ(std::vector<int>({data.BandFrequencies[3], data.BandFrequencies[19], data.BandFrequencies[23]}),
+            std::vector<int>({14025, 10120, 10110}));
+  EXPECT_EQ(data.CWCharacters[1] + "|" + data.CWCharacters[42], "13|2");
   EXPECT_EQ(data.MultList[1], "");  // a section the file lacks stays empty
-}
-
-TEST(StartupData, ASectionOneItemShortSwallowsTheNextSectionName) {
-  StartupData data;
   std::vector<std::string> short41(Morse.begin(), Morse.end() - 1);
-  StartupDataResult result = ParseStartupData("[CW Characters]\n" + Lines(short41) + BandSection, "t.dat", data);
+  data = {};
+  result = ParseStartupData("[CW Characters]\n" + CrLfLines(short41) + BandSection, "t.dat", data);
   ASSERT_TRUE(result.Ok) << result.Detail;
-  EXPECT_EQ(data.CWCharacters[41], "0");
-  EXPECT_EQ(data.CWCharacters[42], "[Band Frequencies]");
+  EXPECT_EQ(data.CWCharacters[41] + "|" + data.CWCharacters[42], "0|[Band Frequencies]");
   // The frequencies were read as stray lines: that section was never seen.
   EXPECT_EQ(data.BandFrequencies, (std::array<int32_t, BandIndexCount + 1>{}));
-
   // Before a numeric section, the swallowed name is a bad number.
-  result = ParseStartupData("[ARRL USVEMultOrder]\n1,2,3\n[CW Characters]\n" + Lines(Morse), "t.dat", data);
+  result = ParseStartupData("[ARRL USVEMultOrder]\n1,2,3\n[CW Characters]\n" + CrLfLines(Morse), "t.dat", data);
   EXPECT_FALSE(result.Ok);
   EXPECT_EQ(result.Detail,
             "t.dat line 3: item 4 of 63 of [ARRL USVEMultOrder]: \"[CW Characters]\" is not a whole number "
@@ -73,32 +59,26 @@ TEST(StartupData, ADamagedFileGivesTheCriticalMessageAndChangesNothing) {
   StartupData data;
   ASSERT_TRUE(ParseStartupData(BandSection, "t.dat", data).Ok);
   const StartupData before = data;
-  struct Case {
-    std::string Text, Detail;
-  } cases[] = {
+  const std::pair<std::string, std::string> cases[] = {
       {"[Band Frequencies]\n28025,21O25\n",
-       "t.dat line 2: item 2 of 24 of [Band Frequencies]: \"21O25\" is not a whole "
-       "number from -2147483648 to 2147483647"},
+       "t.dat line 2: item 2 of 24 of [Band Frequencies]: \"21O25\" is not a whole number from -2147483648 to "
+       "2147483647"},
       {"\n[SS X Coordinates]\n120, 32768\n",
        "t.dat line 3: item 2 of 80 of [SS X Coordinates]: \"32768\" is not a whole number from -32768 to 32767"},
       {"[CQP Y Coordinates]\n225,,450\n",
        "t.dat line 2: item 2 of 72 of [CQP Y Coordinates]: \"\" is not a whole number from -32768 to 32767"},
       {"[CW Characters]\n13,\"3111\n",
-       "t.dat line 2: item 2 of 42 of [CW Characters]: its double quote is not "
-       "closed on the line"},
+       "t.dat line 2: item 2 of 42 of [CW Characters]: its double quote is not closed on the line"},
       {"[CW Characters]\n\"13\"x\n",
-       "t.dat line 2: item 1 of 42 of [CW Characters]: text follows its closing "
-       "double quote"},
-      {"[CW Characters]\n13,3111\n", "t.dat line 3: item 3 of 42 of [CW Characters]: the file ends before it"},
-  };
-  for (const Case& c : cases) {
-    StartupDataResult result = ParseStartupData(c.Text, "t.dat", data);
+       "t.dat line 2: item 1 of 42 of [CW Characters]: text follows its closing double quote"},
+      {"[CW Characters]\n13,3111\n", "t.dat line 3: item 3 of 42 of [CW Characters]: the file ends before it"}};
+  for (const auto& [text, detail] : cases) {
+    StartupDataResult result = ParseStartupData(text, "t.dat", data);
     EXPECT_FALSE(result.Ok);
     EXPECT_EQ(result.Error, message);
-    EXPECT_EQ(result.Detail, c.Detail);
-    EXPECT_EQ(data, before) << c.Text;
+    EXPECT_EQ(result.Detail, detail);
+    EXPECT_EQ(data, before) << text;
   }
-
   StartupDataResult missing = ReadStartupFile("/nonexistent/tarnix121.dat", data);
   EXPECT_FALSE(missing.Ok);
   EXPECT_EQ(missing.Error, message);
@@ -107,22 +87,21 @@ TEST(StartupData, ADamagedFileGivesTheCriticalMessageAndChangesNothing) {
 
 TEST(StartupData, SplitsItemsIntoUpToThreeForms) {
   using Forms = std::array<std::string, 3>;
-  EXPECT_EQ(SplitMultItem("ALA/ALAM/ALAMEDA/"), (Forms{"ALA", "ALAM", "ALAMEDA"}));
-  EXPECT_EQ(SplitMultItem("  SBER / SBD "), (Forms{"SBER", "SBD", "@"}));
-  EXPECT_EQ(SplitMultItem("KERN"), (Forms{"KERN", "@", "@"}));
-  EXPECT_EQ(SplitMultItem("A/B/C/D/"), (Forms{"A", "B", "C"}));
-  EXPECT_EQ(SplitMultItem("A//B/"), (Forms{"A", "", "B"}));
+  const std::pair<const char*, Forms> rows[] = {{"ALA/ALAM/ALAMEDA/", {"ALA", "ALAM", "ALAMEDA"}},
+                                                {"  SBER / SBD ", {"SBER", "SBD", "@"}}, {"KERN", {"KERN", "@", "@"}},
+                                                {"A/B/C/D/", {"A", "B", "C"}}, {"A//B/", {"A", "", "B"}}};
+  for (const auto& [item, forms] : rows) EXPECT_EQ(SplitMultItem(item), forms) << item;
 }
 
 class StartupDataShipped : public ::testing::Test {
  protected:
   static void SetUpTestSuite() { Result = ReadStartupFile(ShippedDataDir() + "/tarnix121.dat", Data); }
+  void SetUp() override { ASSERT_TRUE(Result.Ok) << Result.Detail; }
   static inline StartupData Data;
   static inline StartupDataResult Result;
 };
 
-TEST_F(StartupDataShipped, EverySectionIsReadWithItsExactCount) {
-  ASSERT_TRUE(Result.Ok) << Result.Detail;
+TEST_F(StartupDataShipped, EverySectionIsReadWithItsExactCountAndTheNamedRows) {
   // A section one item short would have swallowed the next section's name
   // and left that section empty; one item long would shift its last item.
   auto filled = [](const auto& list) {
@@ -131,31 +110,21 @@ TEST_F(StartupDataShipped, EverySectionIsReadWithItsExactCount) {
   EXPECT_TRUE(filled(Data.MultList) && filled(Data.SSShortForms) && filled(Data.SprintMults) &&
               filled(Data.PAQPMults) && filled(Data.NEQPMults) && filled(Data.NAQPMults) && filled(Data.TenMults) &&
               filled(Data.ARRLMults) && filled(Data.CWCharacters));
-  EXPECT_EQ(Data.MultList[58], "NT/NWT/YT/");
-  EXPECT_EQ(Data.MultList[116], "YUBA");
-  EXPECT_EQ(Data.MultList[196], "NT/NWT/YT/");
-  EXPECT_EQ(Data.SSShortForms[80], "NT");
-  EXPECT_EQ(Data.SprintMults[72], "FP");
-  EXPECT_EQ(Data.PAQPMults[67], "YOR/YORK/");
-  EXPECT_EQ(Data.NEQPMults[67], "WNRVTWNR");
-  EXPECT_EQ(Data.NAQPMults[72], "DC");
-  EXPECT_EQ(Data.TenMults[65], "NU");
-  EXPECT_EQ(Data.ARRLMults[63], "NU");
+  const std::pair<const std::string&, const char*> rows[] = {
+      {Data.MultList[58], "NT/NWT/YT/"}, {Data.MultList[116], "YUBA"},     {Data.MultList[196], "NT/NWT/YT/"},
+      {Data.SSShortForms[80], "NT"},     {Data.SprintMults[72], "FP"},    {Data.PAQPMults[67], "YOR/YORK/"},
+      {Data.NEQPMults[67], "WNRVTWNR"},  {Data.NAQPMults[72], "DC"},      {Data.TenMults[65], "NU"},
+      {Data.ARRLMults[63], "NU"},
+      {Data.MultList[5], "CA"},              // CQP: every county QSO credits row 5
+      {Data.SprintMults[11], "HI"},          // Sprint: KH6 is no North American multiplier
+      {Data.MultList[59], "ALAM/ALAME/ALA/"}, {Data.MultList[116 + 16], "MDC/MD/DC/"}, {Data.SSShortForms[16], "MD"},
+      {Data.NEQPMults[22], "WORMAWOR"}};     // Worcester County, MA
+  for (const auto& [value, expected] : rows) EXPECT_EQ(value, expected);
   EXPECT_EQ(std::vector<std::string>(Data.CWCharacters.begin() + 1, Data.CWCharacters.end()), Morse);
   EXPECT_EQ(Data.BandFrequencies,
             (std::array<int32_t, BandIndexCount + 1>{0,     28025, 21025, 14025, 7025,  3525,  1825,  50100,  144100,
                                                      28400, 21300, 14250, 7200,  3800,  1850,  50150, 144200, 24950,
                                                      18130, 10120, 0,     24903, 18083, 10110, 0}));
-}
-
-TEST_F(StartupDataShipped, NamedRowsAndTheStatesOfTheContests) {
-  ASSERT_TRUE(Result.Ok) << Result.Detail;
-  EXPECT_EQ(Data.MultList[5], "CA");      // CQP: every county QSO credits row 5
-  EXPECT_EQ(Data.SprintMults[11], "HI");  // Sprint: KH6 is no North American multiplier
-  EXPECT_EQ(Data.MultList[59], "ALAM/ALAME/ALA/");
-  EXPECT_EQ(Data.MultList[116 + 16], "MDC/MD/DC/");
-  EXPECT_EQ(Data.SSShortForms[16], "MD");
-  EXPECT_EQ(Data.NEQPMults[22], "WORMAWOR");  // Worcester County, MA
   // The three lists drawn on the CQP map agree row for row on the 50 states.
   for (int row = 1; row <= 50; ++row) {
     EXPECT_EQ(SplitMultItem(Data.MultList[static_cast<std::size_t>(row)])[0], Data.SprintMults[row]) << row;
@@ -176,7 +145,6 @@ TEST_F(StartupDataShipped, NamedRowsAndTheStatesOfTheContests) {
 }
 
 TEST_F(StartupDataShipped, NoFormBelongsToTwoRowsAndNoMapSpotToTwoNames) {
-  ASSERT_TRUE(Result.Ok) << Result.Detail;
   // The first matching row wins, so a form shared by two rows would credit
   // the wrong multiplier.
   auto distinctForms = [](int firstPlace, int rows, auto item) {
@@ -193,23 +161,18 @@ TEST_F(StartupDataShipped, NoFormBelongsToTwoRowsAndNoMapSpotToTwoNames) {
   EXPECT_EQ(distinctForms(SSSectionPlace, SSSectionRows, fromMultList), "");
   EXPECT_EQ(distinctForms(1, PAQPMultRows, [](int r) { return Data.PAQPMults[static_cast<std::size_t>(r)]; }), "");
   EXPECT_EQ(std::set<std::string>(Data.SSShortForms.begin() + 1, Data.SSShortForms.end()).size(), 80u);
-
   auto distinctSpots = [](const auto& xs, const auto& ys) {
     std::set<std::pair<int, int>> spots;
     for (std::size_t i = 1; i < xs.size(); ++i)
       if (xs[i] < 0 || xs[i] > 5400 || ys[i] < 0 || ys[i] > 3400 || !spots.insert({xs[i], ys[i]}).second) return false;
     return true;
   };
-  EXPECT_TRUE(distinctSpots(Data.CQPMapX, Data.CQPMapY));
-  EXPECT_TRUE(distinctSpots(Data.SSMapX, Data.SSMapY));
-  EXPECT_TRUE(distinctSpots(Data.TenMapX, Data.TenMapY));
-  EXPECT_TRUE(distinctSpots(Data.ARRLMapX, Data.ARRLMapY));
+  EXPECT_TRUE(distinctSpots(Data.CQPMapX, Data.CQPMapY) && distinctSpots(Data.SSMapX, Data.SSMapY) &&
+              distinctSpots(Data.TenMapX, Data.TenMapY) && distinctSpots(Data.ARRLMapX, Data.ARRLMapY));
 }
 
 TEST_F(StartupDataShipped, QuotedItemsKeepCommasAndBlanks) {
-  ASSERT_TRUE(Result.Ok) << Result.Detail;
-  std::ifstream in(ShippedDataDir() + "/tarnix121.dat", std::ios::binary);
-  std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  std::string text = ReadFile(ShippedDataDir() + "/tarnix121.dat");
   // The first two counties of Pennsylvania on one line, the first quoted.
   std::size_t at = text.find("ADA/ADAMS/\r\nALL/ALLEG/\r\n");
   ASSERT_NE(at, std::string::npos);
@@ -217,14 +180,12 @@ TEST_F(StartupDataShipped, QuotedItemsKeepCommasAndBlanks) {
   StartupData data;
   StartupDataResult result = ParseStartupData(text, "t.dat", data);
   ASSERT_TRUE(result.Ok) << result.Detail;
-  EXPECT_EQ(data.PAQPMults[1], "ADA, PA/ADAMS/ ");
-  EXPECT_EQ(data.PAQPMults[2], "ALL/ALLEG/");
-  EXPECT_EQ(data.PAQPMults[67], "YOR/YORK/");
+  EXPECT_EQ(data.PAQPMults[1] + "|" + data.PAQPMults[2] + "|" + data.PAQPMults[67],
+            "ADA, PA/ADAMS/ |ALL/ALLEG/|YOR/YORK/");
   EXPECT_EQ(SplitMultItem(data.PAQPMults[1]), (std::array<std::string, 3>{"ADA, PA", "ADAMS", "@"}));
 }
 
 TEST_F(StartupDataShipped, TablesOfALogFollowTheContestAndTheStation) {
-  ASSERT_TRUE(Result.Ok) << Result.Detail;
   MultiplierTables t;
   LoadMultiplierTables(Data, Cqp, true, t);
   EXPECT_EQ(t.CQPTable.At(5, 1) + t.CQPTable.At(5, 2) + t.CQPTable.At(5, 4), "CA@N");
@@ -233,7 +194,6 @@ TEST_F(StartupDataShipped, TablesOfALogFollowTheContestAndTheStation) {
   LoadMultiplierTables(Data, Cqp, false, t);
   EXPECT_EQ(t.CQPTable.At(1, 1) + t.CQPTable.At(5, 1) + t.CQPTable.At(5, 4), "ALAMCALAN");
   EXPECT_EQ(t.CQPCountyTable.At(1, 1), "");
-
   LoadMultiplierTables(Data, Sweepstakes, false, t);
   EXPECT_EQ(t.SSTable.At(16, 1) + "|" + t.SSTable.At(16, 2) + "|" + t.SSTable.At(16, 3) + "|" + t.SSTable.At(16, 4),
             "MDC|MD|DC|N");

@@ -29,8 +29,16 @@ class UserInfoTest : public ::testing::Test {
     for (const TextBox& box : form->Textinfo) out += box.Text + "|";
     return out;
   }
-  const MessageBoxRequest& LastBox() const { return boxes.Shown.back(); }
-
+  void Paste(MsgAnswer answer) {
+    boxes.Answers.push_back(answer);
+    form->mnuPostUserPaste_Click();
+  }
+  void Rename(const char* name) {
+    form->TextRename_Change(name);
+    form->CmdRenameOK_Click();
+  }
+  // The title and text of the last message box.
+  std::string LastBox() const { return boxes.Shown.back().Title + ": " + boxes.Shown.back().Text; }
   Settings s;
   UserInfoClipboard clipboard;
   ScriptedMessageBoxes boxes;
@@ -55,10 +63,8 @@ TEST_F(UserInfoTest, OpensOnTheCurrentProfile) {
                 f.mnuPostUserCopy.Caption + "|" + f.mnuPostUserPaste.Caption,
             "Profile Operations|Save Profile|Rename Profile|Copy User Info|Paste User Info");
   EXPECT_FALSE(f.TextRename.Visible || f.CmdRenameOK.Visible || f.CmdRenameCancel.Visible);
-
   f.Textinfo_Change(0, "VE3ABCDEFGHIJKL");
   EXPECT_EQ(f.Textinfo[0].Text, "VE3ABCDEFGHI");  // cut at 12
-
   s.CurrentUserProfile = 0;
   EXPECT_EQ(Open().ComboUserProfile.ListIndex, 0);
 }
@@ -69,57 +75,43 @@ TEST_F(UserInfoTest, SwitchingKeepsTheShownValuesAndOkSavesCancelDoesNot) {
   f.ComboUserProfile_Click(3);
   EXPECT_EQ(s.UserProfile[2].Operators, "W6XX W6YY");
   EXPECT_EQ(Boxes(), "K4ABC||||||||||op4@example.org|");
-  EXPECT_EQ(s.CurrentUserProfile, 4);
-  EXPECT_EQ(s.CurrentUserProfileName, "Field Day");
+  EXPECT_EQ(std::to_string(s.CurrentUserProfile) + " " + s.CurrentUserProfileName, "4 Field Day");
   EXPECT_EQ(writes, 0);
-
   f.Textinfo_Change(8, " K3 ");
   f.mnuPostUserSave_Click();
   EXPECT_EQ(s.UserProfile[4].Rig, "K3");
-  EXPECT_EQ(writes, 1);
-  EXPECT_TRUE(f.Visible);
-
+  EXPECT_TRUE(writes == 1 && f.Visible);
   f.Textinfo_Change(9, "Dipole");
   f.CmdCancel_Click();
   EXPECT_EQ(s.UserProfile[4].Ant, "");
-  EXPECT_FALSE(f.Visible);
-  EXPECT_EQ(writes, 1);
-
+  EXPECT_TRUE(writes == 1 && !f.Visible);
   UserInfo& g = Open();
   g.Textinfo_Change(9, "Dipole ");
   g.CmdOK_Click();
   EXPECT_EQ(s.UserProfile[4].Ant, "Dipole");
-  EXPECT_FALSE(g.Visible);
-  EXPECT_EQ(writes, 2);
+  EXPECT_TRUE(writes == 2 && !g.Visible);
 }
 
 TEST_F(UserInfoTest, CopyAndPasteAskFirst) {
   UserInfo& f = Open();
   f.mnuPostUserPaste_Click();  // nothing copied yet; the default answer is No
-  const MessageBoxRequest& ask = LastBox();
-  EXPECT_EQ(ask.Text, "Do you want to replace the User Data on the displayed Profile?");
-  EXPECT_EQ(ask.Title, "Warning -- Information will be overwritten");
-  EXPECT_EQ(ask.Buttons, MsgButtons::YesNo);
+  EXPECT_EQ(LastBox(), "Warning -- Information will be overwritten: Do you want to replace the User Data on the "
+                       "displayed Profile?");
+  EXPECT_EQ(boxes.Shown.back().Buttons, MsgButtons::YesNo);
   EXPECT_EQ(Boxes(), "K2ABC||||||||||op2@example.org|");
-
-  boxes.Answers.push_back(MsgAnswer::Yes);
-  f.mnuPostUserPaste_Click();
+  Paste(MsgAnswer::Yes);
   EXPECT_EQ(Boxes(), "|||||||||||");
   EXPECT_EQ(s.UserProfile[2].Callsign + s.UserProfile[2].Email, "");
-
   f.ComboUserProfile_Click(0);
   f.Textinfo_Change(3, " Ann ");
   f.mnuPostUserCopy_Click();
   f.ComboUserProfile_Click(2);
-  boxes.Answers.push_back(MsgAnswer::No);
-  f.mnuPostUserPaste_Click();
+  Paste(MsgAnswer::No);
   EXPECT_EQ(s.UserProfile[3].Name, "");
-  boxes.Answers.push_back(MsgAnswer::Yes);
-  f.mnuPostUserPaste_Click();
+  Paste(MsgAnswer::Yes);
   EXPECT_EQ(Boxes(), "K1ABC|||Ann|||||||op1@example.org|");
   EXPECT_EQ(s.UserProfile[3].Name + " " + s.UserProfile[3].Callsign, "Ann K1ABC");
-  EXPECT_EQ(boxes.Shown.size(), 4u);
-  EXPECT_EQ(writes, 0);
+  EXPECT_TRUE(boxes.Shown.size() == 4 && writes == 0);
 }
 
 TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
@@ -130,35 +122,21 @@ TEST_F(UserInfoTest, RenameRefusesBlankAndOtherProfilesNames) {
   EXPECT_TRUE(f.TextRename.Visible && f.CmdRenameOK.Visible && f.CmdRenameCancel.Visible);
   EXPECT_EQ(f.TextRename.Text, "Club");
   EXPECT_EQ(f.TextRename.SelStart * 100 + f.TextRename.SelLength, 4);
-
-  f.TextRename_Change("    ");
-  f.CmdRenameOK_Click();
-  EXPECT_EQ(LastBox().Text, "Blank Names are not allowed.  Try again.");
-  EXPECT_EQ(LastBox().Title, "Error -- Blank Name");
-  f.TextRename_Change(" Guest ");
-  f.CmdRenameOK_Click();
-  EXPECT_EQ(LastBox().Text, "The new name is the same as that of another User Profile.  Choose another name.");
-  EXPECT_EQ(LastBox().Title, "Error -- Duplicate Name");
-  EXPECT_TRUE(f.TextRename.Visible);
+  Rename("    ");
+  EXPECT_EQ(LastBox(), "Error -- Blank Name: Blank Names are not allowed.  Try again.");
+  Rename(" Guest ");
+  EXPECT_EQ(LastBox(), "Error -- Duplicate Name: The new name is the same as that of another User Profile.  "
+                       "Choose another name.");
+  EXPECT_TRUE(f.TextRename.Visible && writes == 0);
   EXPECT_EQ(s.UserProfile[2].ProfileName, "Club");
-  EXPECT_EQ(writes, 0);
-
-  f.TextRename_Change("Club");  // its own name
-  f.CmdRenameOK_Click();
-  EXPECT_EQ(boxes.Shown.size(), 2u);
-  EXPECT_EQ(writes, 1);
-  EXPECT_TRUE(f.ComboUserProfile.Visible);
-
+  Rename("Club");  // its own name
+  EXPECT_TRUE(boxes.Shown.size() == 2 && writes == 1 && f.ComboUserProfile.Visible);
   f.mnuPostUserRename_Click();
-  f.TextRename_Change("Contest Club Station 1");
-  f.CmdRenameOK_Click();
-  EXPECT_EQ(s.UserProfile[2].ProfileName, "Contest Club Station");  // 20 characters
-  EXPECT_EQ(f.ComboUserProfile.Items[1], "Contest Club Station");
-  EXPECT_EQ(f.ComboUserProfile.ListIndex, 1);
-  EXPECT_EQ(s.CurrentUserProfileName, "Contest Club Station");
+  Rename("Contest Club Station 1");  // kept to 20 characters
+  EXPECT_EQ(s.UserProfile[2].ProfileName + "|" + f.ComboUserProfile.Items[1] + "|" + s.CurrentUserProfileName,
+            "Contest Club Station|Contest Club Station|Contest Club Station");
+  EXPECT_TRUE(f.ComboUserProfile.ListIndex == 1 && writes == 2);
   EXPECT_EQ(f.LabelUserProfile.Caption, "User Profile:");
-  EXPECT_EQ(writes, 2);
-
   f.mnuPostUserRename_Click();
   f.TextRename_Change("Dropped");
   f.CmdRenameCancel_Click();

@@ -14,19 +14,26 @@ class BandModeTest : public ::testing::Test {
   ContestState state;
   ScriptedMessageBoxes boxes;
   std::optional<BandMode> form;
-
-  // Opens the form as the host does; rows 1..12 enabled given as digits.
-  BandMode& Open(int contest, int bandIndex, const std::string& rows) {
+  // Opens the form as the host does, rows 1..12 enabled given as digits, and
+  // clicks the boxes of the rows given.
+  BandMode& Open(int contest, int bandIndex, const std::string& rows, std::initializer_list<int> clicks = {}) {
     state.ContestIndex = static_cast<int16_t>(contest);
     state.BandIndex = static_cast<int16_t>(bandIndex);
     for (int row = 1; row <= 12; ++row) state.BandEnabled[row] = rows[row - 1] == '1';
+    boxes.Shown.clear();
     form.emplace(state, boxes);
     form->Visible = true;
+    for (int row : clicks) form->BandBox_Click(row);
     return *form;
   }
   std::string Rows(bool fromBoxes) const {
     std::string out;
     for (int row = 1; row <= 12; ++row) out += (fromBoxes ? form->BandBox[row].Value : state.BandEnabled[row]) ? '1' : '0';
+    return out;
+  }
+  std::string Boxes() const {
+    std::string out;
+    for (const MessageBoxRequest& box : boxes.Shown) out += box.Title + ": " + box.Text + "|";
     return out;
   }
 };
@@ -46,51 +53,25 @@ TEST_F(BandModeTest, RowsShownByContestAndLockedForTenMetres) {
   EXPECT_EQ(Rows(true), "000000000000");
 }
 
-TEST_F(BandModeTest, OkWithNoBandRestoresTheSavedChoice) {
-  BandMode& f = Open(ArrlDx, 3, "111111000000");
-  for (int row = 1; row <= 6; ++row) f.BandBox_Click(row);
-  f.Command1_Click();
-  ASSERT_EQ(boxes.Shown.size(), 1u);
-  EXPECT_EQ(boxes.Shown[0].Text, "At least one band must be selected for the program to work.");
-  EXPECT_EQ(boxes.Shown[0].Title, "Band Selection Error");
-  EXPECT_EQ(Rows(true), "111111000000");
-  EXPECT_EQ(Rows(false), "111111000000");
-  EXPECT_TRUE(f.Visible);
-}
-
-TEST_F(BandModeTest, OkRefusesToDropTheCurrentBand) {
+TEST_F(BandModeTest, OkRefusesNoBandAndTheCurrentBandTakesAValidChoiceAndCancelRestores) {
+  Open(ArrlDx, 3, "111111000000", {1, 2, 3, 4, 5, 6}).Command1_Click();
+  EXPECT_EQ(Boxes(), "Band Selection Error: At least one band must be selected for the program to work.|");
+  EXPECT_EQ(Rows(true) + "|" + Rows(false), "111111000000|111111000000");
+  EXPECT_TRUE(form->Visible);
   struct Row { int contest; int bandIndex; int row; };
   const Row rows[] = {{ArrlDx, 3, 3}, {ArrlDx, 11, 3}, {Generic, 21, 9}};  // 20m CW, 20m SSB, 12m CW
   for (const Row& r : rows) {
-    boxes.Shown.clear();
-    BandMode& f = Open(r.contest, r.bandIndex, "111111111110");
-    f.BandBox_Click(r.row);
-    f.BandBox_Click(1);  // other bands stay ticked
-    f.Command1_Click();
-    ASSERT_EQ(boxes.Shown.size(), 1u) << r.bandIndex;
-    EXPECT_EQ(boxes.Shown[0].Text, "No fair -- Can't delete current band.");
-    EXPECT_EQ(boxes.Shown[0].Title, "Band Selection Error");
-    EXPECT_TRUE(f.BandBox[r.row].Value && state.BandEnabled[r.row] && f.Visible) << r.bandIndex;
+    Open(r.contest, r.bandIndex, "111111111110", {r.row, 1}).Command1_Click();  // other bands stay ticked
+    EXPECT_EQ(Boxes(), "Band Selection Error: No fair -- Can't delete current band.|") << r.bandIndex;
+    EXPECT_TRUE(form->BandBox[r.row].Value && state.BandEnabled[r.row] && form->Visible) << r.bandIndex;
   }
-}
-
-TEST_F(BandModeTest, OkTakesAValidChoiceAndCancelRestores) {
-  BandMode& f = Open(Generic, 3, "111111000000");
-  f.BandBox_Click(1);
-  f.BandBox_Click(9);
-  f.BandBox_Click(12);  // hidden row: no change
-  f.Command1_Click();
-  EXPECT_TRUE(boxes.Shown.empty());
-  EXPECT_FALSE(f.Visible);
+  Open(Generic, 3, "111111000000", {1, 9, 12}).Command1_Click();  // row 12 is hidden: no change
+  EXPECT_EQ(Boxes(), "");
+  EXPECT_FALSE(form->Visible);
   EXPECT_EQ(Rows(false), "011111001000");
-
-  BandMode& g = Open(Generic, 3, "111111000000");
-  g.BandBox_Click(1);
-  g.BandBox_Click(10);
-  g.Command2_Click();
-  EXPECT_FALSE(g.Visible);
-  EXPECT_EQ(Rows(false), "111111000000");
-  EXPECT_EQ(Rows(true), "111111000000");
+  Open(Generic, 3, "111111000000", {1, 10}).Command2_Click();
+  EXPECT_FALSE(form->Visible);
+  EXPECT_EQ(Rows(false) + "|" + Rows(true), "111111000000|111111000000");
 }
 
 }  // namespace

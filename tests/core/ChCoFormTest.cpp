@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 #include "core/ChCoForm.h"
 
@@ -30,35 +31,29 @@ TEST_F(ChCoFormTest, ListOrderAndOpeningState) {
     EXPECT_EQ(ChCoForm::ContestAtPosition(p), order[p]) << p;
     EXPECT_EQ(ChCoForm::PositionOfContest(order[p]), p);
   }
-  EXPECT_EQ(form.List1.Items.size(), 13u);
   EXPECT_FALSE(cancelled);
-  EXPECT_EQ(form.List1.ListIndex, 3);
-  EXPECT_EQ(form.ComboQTH.ListIndex, 3);
+  EXPECT_EQ(std::tuple(form.List1.Items.size(), form.List1.ListIndex, form.ComboQTH.ListIndex), std::tuple(13u, 3, 3));
   EXPECT_EQ(form.ComboQTH.Items.at(3), "NA");
 }
 
 TEST_F(ChCoFormTest, FramesPerContest) {
-  struct Row { int contest; const char* frame1; const char* mode; const char* frame2; const char* qth; bool combo; };
-  const char* mode = "  Phone|  CW*";
+  // Each frame: its caption, then its options; empty when the frame is hidden.
+  struct Row { int contest; std::string frame1, frame2; bool combo; };
+  const std::string mode = "   Mode    Phone|  CW*";
   const Row rows[] = {
-      {AllAsian, "   Mode  ", mode, "", "", false},
-      {Sprint, "   Mode  ", mode, "", "", false},
-      {Cqp, "   Location   ", " In California| Out of State*", "", "", false},
-      {Neqp, "   Location   ", " In N.E.-| Out of N.E.*", "", "", false},
-      {Paqp, "   Location   ", " In PA-| Out of State*", "", "", false},
-      {ArrlDx, "   Mode  ", mode, " QTH ", " US/VE*| DX|hidden", false},
-      {Cqww, "   Mode  ", mode, " QTH ", " USA*| VE|", true},
-      {Wpx, "   Mode  ", mode, " QTH ", " USA*| VE|", true},
-      {CwOpen, "   Mode  ", "  Phone-|  CW*", " Contest Hours ", " 1200-1559Z| 2000-2359Z| 0400-0759Z*", false},
-      {Ten, "", "", "", "", false},
-      {Generic, "", "", "", "", false}};
+      {AllAsian, mode, "", false},  {Sprint, mode, "", false},
+      {Cqp, "   Location    In California| Out of State*", "", false},
+      {Neqp, "   Location    In N.E.-| Out of N.E.*", "", false},
+      {Paqp, "   Location    In PA-| Out of State*", "", false},
+      {ArrlDx, mode, " QTH  US/VE*| DX|hidden", false},
+      {Cqww, mode, " QTH  USA*| VE|", true}, {Wpx, mode, " QTH  USA*| VE|", true},
+      {CwOpen, "   Mode    Phone-|  CW*", " Contest Hours  1200-1559Z| 2000-2359Z| 0400-0759Z*", false},
+      {Ten, "", "", false},         {Generic, "", "", false}};
   for (const Row& r : rows) {
     Select(r.contest);
-    SCOPED_TRACE(r.contest);
-    EXPECT_EQ(form.Frame1.Visible ? form.Frame1.Caption + Options(form.ButtonMode) : "",
-              std::string(r.frame1) + r.mode);
-    EXPECT_EQ(form.Frame2.Visible ? form.Frame2.Caption + Options(form.ButtonQTH) : "", std::string(r.frame2) + r.qth);
-    EXPECT_EQ(form.ComboQTH.Visible, r.combo);
+    EXPECT_EQ(form.Frame1.Visible ? form.Frame1.Caption + Options(form.ButtonMode) : "", r.frame1) << r.contest;
+    EXPECT_EQ(form.Frame2.Visible ? form.Frame2.Caption + Options(form.ButtonQTH) : "", r.frame2) << r.contest;
+    EXPECT_EQ(form.ComboQTH.Visible, r.combo) << r.contest;
   }
 }
 
@@ -75,12 +70,9 @@ TEST_F(ChCoFormTest, ContinentListOnlyWhileThirdQthIsSelected) {
   form.ButtonQTH_Click(2);
   form.ButtonMode_Click(0);
   form.CmdOK_Click();
-  EXPECT_FALSE(form.Visible);
-  EXPECT_EQ(state.ContestIndex, Cqww);
-  EXPECT_FALSE(state.StationInUSA || state.StationInCanada);
-  EXPECT_EQ(state.StationContinent, "EU");
+  EXPECT_FALSE(form.Visible || state.StationInUSA || state.StationInCanada || state.ModeEnabled[2]);
   EXPECT_TRUE(state.ModeEnabled[1]);
-  EXPECT_FALSE(state.ModeEnabled[2]);
+  EXPECT_EQ(std::tuple(state.ContestIndex, state.StationContinent), std::tuple(Cqww, "EU"));
 }
 
 TEST_F(ChCoFormTest, OkCopiesTheShownChoices) {
@@ -108,7 +100,7 @@ TEST_F(ChCoFormTest, OkCopiesTheShownChoices) {
   }
 }
 
-TEST_F(ChCoFormTest, ReselectingResetsTheButtons) {
+TEST_F(ChCoFormTest, ReselectingResetsTheButtonsAndCancelKeepsTheState) {
   Select(CwOpen);
   Select(ArrlDx);
   EXPECT_EQ(Options(form.ButtonQTH), " US/VE*| DX|hidden");
@@ -120,18 +112,14 @@ TEST_F(ChCoFormTest, ReselectingResetsTheButtons) {
   form.ButtonQTH_Click(2);
   Select(Wpx);
   EXPECT_FALSE(form.ComboQTH.Enabled);
-}
-
-TEST_F(ChCoFormTest, CancelChangesNothingElse) {
+  // Cancel changes nothing else.
   state.ContestIndex = Sweepstakes;
   state.ModeEnabled = {false, true, false};
   Select(AllAsian);
   form.ButtonMode_Click(1);
   form.CmdCancel_Click();
-  EXPECT_TRUE(cancelled);
-  EXPECT_FALSE(form.Visible);
+  EXPECT_TRUE(cancelled && !form.Visible && state.ModeEnabled[1] && !state.ModeEnabled[2]);
   EXPECT_EQ(state.ContestIndex, Sweepstakes);
-  EXPECT_TRUE(state.ModeEnabled[1] && !state.ModeEnabled[2]);
 }
 
 }  // namespace

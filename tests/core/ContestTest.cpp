@@ -16,27 +16,17 @@ ContestState StateOf(int contest, bool cw = true) {
   return s;
 }
 
-TEST(Contest, OffTimeLimitAndCallListByContest) {
+TEST(Contest, OffTimeLimitCallListStartBandAndDefaultBandsByContest) {
   const int limit[] = {0, 15, 15, 15, 15, 30, 60, 15, 15, 30, 15, 15, 15, 15};
   const char* scp[] = {"", "US", "ALL", "ALL", "US", "US", "ALL", "ALL", "US", "US", "ALL", "US", "ALL", "ALL"};
-  for (int c = 1; c <= ContestCount; ++c) {
-    EXPECT_EQ(OffTimeLimitFor(c), limit[c]) << c;
-    EXPECT_EQ(SCPSelectionFor(StateOf(c)), scp[c]) << c;
-  }
-  ContestState usve = StateOf(ArrlDx);
-  usve.IsUSVEStation = true;
-  EXPECT_EQ(SCPSelectionFor(usve), "DX");
-  usve.ContestIndex = Sprint;
-  EXPECT_EQ(SCPSelectionFor(usve), "US");
-}
-
-TEST(Contest, StartBandAndDefaultBands) {
   // Rows 1..12 enabled by default, as digits.
   const char* bands[] = {"",
                          "111111000000", "111111110000", "111111000000", "001110000000", "111111000000",
                          "111111000000", "111111000000", "111111110000", "111111000000", "100000000000",
                          "111111110000", "111111111110", "111111000000"};
   for (int c = 1; c <= ContestCount; ++c) {
+    EXPECT_EQ(OffTimeLimitFor(c), limit[c]) << c;
+    EXPECT_EQ(SCPSelectionFor(StateOf(c)), scp[c]) << c;
     EXPECT_EQ(StartBandFor(StateOf(c, true)), c == Ten ? 1 : 3) << c;
     EXPECT_EQ(StartBandFor(StateOf(c, false)), c == Ten ? 1 : 11) << c;
     ContestState s = StateOf(c);
@@ -46,6 +36,11 @@ TEST(Contest, StartBandAndDefaultBands) {
     for (int row = 1; row <= 12; ++row) rows += s.BandEnabled[row] ? '1' : '0';
     EXPECT_EQ(rows, bands[c]) << c;
   }
+  ContestState usve = StateOf(ArrlDx);
+  usve.IsUSVEStation = true;
+  EXPECT_EQ(SCPSelectionFor(usve), "DX");
+  usve.ContestIndex = Sprint;
+  EXPECT_EQ(SCPSelectionFor(usve), "US");
 }
 
 TEST(Contest, TitleLineLeavesOutTheModeByPlace) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 
 #include "core/LogStore.h"
 
@@ -15,32 +16,22 @@ std::string Entries(const LogStore& log) {
   return out;
 }
 
-class CallIndexTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    // Added in this order; each row is the place the entry goes.
-    struct Row { const char* key; int place; };
-    const Row rows[] = {{"K3ZZZ05", 1}, {"W1AW03", 2}, {"K3ZZZ11", 2}, {"K3Z03", 1},
-                        {"AA1A01", 1},  {"K3ZZZ03", 5}, {"W1AW05", 7}};
-    for (const Row& r : rows) EXPECT_EQ(IndexFindCall(*log, r.key, false), r.place) << r.key;
-  }
-  std::unique_ptr<LogStore> log = std::make_unique<LogStore>();
-  const std::string kSorted = "AA1A01 K3Z03 K3ZZZ05 K3ZZZ11 K3ZZZ03 W1AW03 W1AW05 ";
-};
-
-TEST_F(CallIndexTest, RepeatedCallsFollowTheirEarlierEntriesInOrderAdded) {
+TEST(CallIndex, RepeatedCallsFollowTheirEarlierEntriesAndASearchInsertsNothing) {
+  auto log = std::make_unique<LogStore>();
+  // Added in this order; each row is the place the entry goes.
+  const std::pair<const char*, int> added[] = {{"K3ZZZ05", 1}, {"W1AW03", 2}, {"K3ZZZ11", 2}, {"K3Z03", 1},
+                                               {"AA1A01", 1},  {"K3ZZZ03", 5}, {"W1AW05", 7}};
+  for (auto [key, place] : added) EXPECT_EQ(IndexFindCall(*log, key, false), place) << key;
+  const std::string sorted = "AA1A01 K3Z03 K3ZZZ05 K3ZZZ11 K3ZZZ03 W1AW03 W1AW05 ";
   EXPECT_EQ(log->CallIndexCount, 7);
-  EXPECT_EQ(Entries(*log), kSorted);
-}
-
-TEST_F(CallIndexTest, SearchFindsWholeCallsPlacesPartialOnesAndInsertsNothing) {
-  struct Row { const char* key; int place; };
-  const Row rows[] = {{"K3Z", 2}, {"K3ZZZ", 4}, {"W1AW", 6},  {"AA1A", 1},  {"K3ZZ", 3},
-                      {"A", 1},   {"ZZ9", 8},   {"k3zzz", 8}, {"K3ZZZZ", 6}};
-  for (const Row& r : rows) EXPECT_EQ(IndexFindCall(*log, r.key, true), r.place) << r.key;
+  EXPECT_EQ(Entries(*log), sorted);
+  // A search finds whole calls and places partial ones.
+  const std::pair<const char*, int> searched[] = {{"K3Z", 2}, {"K3ZZZ", 4}, {"W1AW", 6},  {"AA1A", 1},  {"K3ZZ", 3},
+                                                  {"A", 1},   {"ZZ9", 8},   {"k3zzz", 8}, {"K3ZZZZ", 6}};
+  for (auto [key, place] : searched) EXPECT_EQ(IndexFindCall(*log, key, true), place) << key;
   // A key equal to an entry's call is found, not inserted.
   EXPECT_EQ(IndexFindCall(*log, "W1AW", false), 6);
-  EXPECT_EQ(Entries(*log), kSorted);
+  EXPECT_EQ(Entries(*log), sorted);
 }
 
 TEST(LogStore, MinuteStampsCountContestDaysUpToEighteen) {
@@ -62,7 +53,7 @@ TEST(LogStore, MinuteStampsCountContestDaysUpToEighteen) {
   EXPECT_EQ(log->ContestDay, 18);
 }
 
-TEST(LogStore, ResetClearsCountersAndIndex) {
+TEST(LogStore, ResetClearsCountersAndIndexAndTablesRefuseSubscriptsOutsideTheirBounds) {
   auto log = std::make_unique<LogStore>();
   IndexFindCall(*log, "K3ZZZ05", false);
   log->ContestDay = 4;
@@ -74,15 +65,10 @@ TEST(LogStore, ResetClearsCountersAndIndex) {
   log->BandMults[1] = 1;
   log->BandMinutes[9] = 7.5f;
   ResetLog(*log);
-  EXPECT_EQ(log->ContestDay, 1);
-  EXPECT_EQ(log->QSOCount, 1);
+  EXPECT_EQ(std::tuple(log->ContestDay, log->QSOCount), std::tuple(1, 1));
   EXPECT_EQ(log->CallIndexCount + log->TotalQSOPoints + log->TotalMults, 0);
   EXPECT_EQ(log->BandQSOs[3] + log->BandPoints[24] + log->BandMults[1], 0);
   EXPECT_EQ(log->BandMinutes[9], 0.0f);
-}
-
-TEST(LogStore, TablesRefuseSubscriptsOutsideTheirBounds) {
-  auto log = std::make_unique<LogStore>();
   EXPECT_NO_THROW(log->LogRecords.At(8000));
   EXPECT_NO_THROW(log->CallSum.At(7999));
   EXPECT_NO_THROW(log->LogRecordsMid.At(5000));

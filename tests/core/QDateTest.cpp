@@ -40,20 +40,14 @@ TEST(QDate, DayOffsetsFollowTheOwnMonthTable) {
   for (const Row& r : rows) EXPECT_EQ(GetGMTDate(r.today, r.offset), r.code) << r.name;
 }
 
-TEST(QDate, TextReadsTheDecadeFromSignAndFirstDigit) {
+TEST(QDate, DateTextReadsTheDecadeFromSignAndFirstDigitAndTimeTextHasFourDigits) {
   struct Row { int16_t code; const char* text; };
   const Row rows[] = {{1155, "01/15/95"},   {1010, "01/01/90"},   {12015, "12/01/95"}, {12319, "12/31/99"},
                       {21155, "01/15/05"},  {32319, "12/31/09"},  {31226, "11/22/06"}, {-21155, "01/15/15"},
                       {-32319, "12/31/19"}, {-21010, "01/01/10"}};
   for (const Row& r : rows) EXPECT_EQ(QDateText(r.code), r.text) << r.code;
-}
-
-TEST(QDate, TimeTextHasFourDigits) {
-  EXPECT_EQ(QTimeText(5), "0005");
-  EXPECT_EQ(QTimeText(0), "0000");
-  EXPECT_EQ(QTimeText(59), "0059");
-  EXPECT_EQ(QTimeText(100), "0100");
-  EXPECT_EQ(QTimeText(2359), "2359");
+  const Row times[] = {{5, "0005"}, {0, "0000"}, {59, "0059"}, {100, "0100"}, {2359, "2359"}};
+  for (const Row& r : times) EXPECT_EQ(QTimeText(r.code), r.text) << r.code;
 }
 
 }  // namespace

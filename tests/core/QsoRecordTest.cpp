@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <string>
 
 #include "core/QsoRecord.h"
@@ -35,7 +34,7 @@ const std::string kDisk = Bytes({0x5D, 0xAD, 0xD2, 0x04, 0x03, 0x00}) + "K3ZZZ  
                           Bytes({0x2C, 0x01, 0x2D, 0x00}) + "OH   " + "3" + "599 OH    " + "14025.5   " +
                           "1 " + std::string(12, ' ');
 
-TEST(QsoRecord, EncodesAllThreeShapes) {
+TEST(QsoRecord, EncodesAllThreeShapesAndDecodingFillsWhatAShortRecordLacks) {
   auto disk = EncodeRecord(Sample());
   EXPECT_EQ(std::string(disk.data(), disk.size()), kDisk);
   for (std::size_t size : {QsoRecordShortSize, QsoRecordMidSize}) {
@@ -43,9 +42,6 @@ TEST(QsoRecord, EncodesAllThreeShapes) {
     EncodeRecord(Sample(), out);
     EXPECT_EQ(out, kDisk.substr(0, size)) << size;
   }
-}
-
-TEST(QsoRecord, DecodesAndFillsWhatAShortRecordLacks) {
   EXPECT_EQ(DecodeRecord(kDisk), Sample());
   QsoRecord old = DecodeRecord(std::span<const char>(kDisk.data(), QsoRecordShortSize));
   EXPECT_EQ(old.QPoints.Str() + "|" + old.QRcvText.Str(), "3|          ");
@@ -54,13 +50,12 @@ TEST(QsoRecord, DecodesAndFillsWhatAShortRecordLacks) {
   // Date, time, band and four letters of the call only.
   QsoRecord cut = DecodeRecord(std::span<const char>(kDisk.data(), 10));
   EXPECT_EQ(cut.QBand, 3);
-  EXPECT_EQ(cut.QCall.Str(), "K3ZZ      ");
   EXPECT_EQ(cut.QNumber + cut.QRcvNumber, 0);
-  EXPECT_EQ(cut.QMult.Str(), "     ");
+  EXPECT_EQ(cut.QCall.Str() + "|" + cut.QMult.Str(), "K3ZZ      |     ");
   EXPECT_EQ(DecodeRecord(std::span<const char>()), QsoRecord{});
 }
 
-TEST(QsoRecord, TenCharacterCallFillsTheFieldAndLongerIsCut) {
+TEST(QsoRecord, TenCharacterCallFillsTheFieldLongerIsCutAndIntegersAreLittleEndian) {
   QsoRecord r;
   r.QCall.Set("VE3ABCDEFG");
   r.QNumber = 7;
@@ -68,9 +63,7 @@ TEST(QsoRecord, TenCharacterCallFillsTheFieldAndLongerIsCut) {
   EXPECT_EQ(std::string(disk.data() + 6, 12), "VE3ABCDEFG" + Bytes({0x07, 0x00}));
   r.QCall.Set("VE3ABCDEFGH");
   EXPECT_EQ(r.QCall.Str(), "VE3ABCDEFG");
-}
-
-TEST(QsoRecord, SixteenBitIntegersAreLittleEndian) {
+  // Sixteen-bit integers are little-endian.
   struct Row { int16_t value; int low, high; };
   const Row rows[] = {{0, 0x00, 0x00},   {1, 0x01, 0x00},     {-1, 0xFF, 0xFF},    {255, 0xFF, 0x00},
                       {256, 0x00, 0x01}, {32767, 0xFF, 0x7F}, {-32768, 0x00, 0x80}};

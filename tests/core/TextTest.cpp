@@ -15,45 +15,23 @@ TEST(Text, ValReadsTheNumberATextBeginsWith) {
   for (const Row& r : rows) EXPECT_DOUBLE_EQ(Val(r.text), r.value) << r.name;
 }
 
-TEST(Text, TrimAndCase) {
-  EXPECT_EQ(Trim("  K3ZZZ  "), "K3ZZZ");
-  EXPECT_EQ(LTrim("  K3 ZZ  "), "K3 ZZ  ");
-  EXPECT_EQ(RTrim("  K3 ZZ  "), "  K3 ZZ");
-  EXPECT_EQ(Trim("     "), "");
-  EXPECT_EQ(LTrim(""), "");
-  EXPECT_EQ(UCase("k3zzz/p 5nn"), "K3ZZZ/P 5NN");
-}
-
-TEST(Text, PaddingAtAndAroundTheWidth) {
-  EXPECT_EQ(PadRight("OH", 5), "OH   ");
-  EXPECT_EQ(PadRight("OHIOX", 5), "OHIOX");
-  EXPECT_EQ(PadRight("OHIOXY", 5), "OHIOX");
-  EXPECT_EQ(PadLeft("12", 4), "  12");
-  EXPECT_EQ(PadLeft("1234", 4), "1234");
-  EXPECT_EQ(PadLeft("12345", 4), "12345");
-}
-
-TEST(Text, NumberTextAndGrouping) {
-  EXPECT_EQ(NumberText(12), " 12");
-  EXPECT_EQ(NumberText(0), " 0");
-  EXPECT_EQ(NumberText(-3), "-3");
-  struct Row { long value; const char* text; };
-  const Row rows[] = {{0, "0"},           {999, "999"},           {1000, "1,000"},
-                      {999999, "999,999"}, {1000000, "1,000,000"}, {1234567, "1,234,567"},
-                      {-1234, "-1,234"},   {-999, "-999"}};
-  for (const Row& r : rows) EXPECT_EQ(Grouped(r.value), r.text) << r.value;
-}
-
-TEST(Text, RemoveCharsCharSumAndRounding) {
-  EXPECT_EQ(RemoveChars("K3.ZZ?Z.", ".?"), "K3ZZZ");
-  EXPECT_EQ(RemoveChars("??", ".?"), "");
-  EXPECT_EQ(CharSum("K3ZZZ"), 75 + 51 + 90 + 90 + 90);
-  EXPECT_EQ(CharSum(""), 0);
-  EXPECT_EQ(RoundEven(2.5), 2);
-  EXPECT_EQ(RoundEven(3.5), 4);
-  EXPECT_EQ(RoundEven(-2.5), -2);
-  EXPECT_EQ(RoundEven(2.51), 3);
-  EXPECT_EQ(RoundEven(-8.0), -8);
+// Each row: what the function made of its input, then what it must make.
+TEST(Text, TrimCasePaddingRemovalAndNumberTexts) {
+  const std::pair<std::string, std::string> rows[] = {
+      {Trim("  K3ZZZ  "), "K3ZZZ"},        {LTrim("  K3 ZZ  "), "K3 ZZ  "},    {RTrim("  K3 ZZ  "), "  K3 ZZ"},
+      {Trim("     "), ""},                 {LTrim(""), ""},                    {UCase("k3zzz/p 5nn"), "K3ZZZ/P 5NN"},
+      {PadRight("OH", 5), "OH   "},        {PadRight("OHIOX", 5), "OHIOX"},    {PadRight("OHIOXY", 5), "OHIOX"},
+      {PadLeft("12", 4), "  12"},          {PadLeft("1234", 4), "1234"},       {PadLeft("12345", 4), "12345"},
+      {RemoveChars("K3.ZZ?Z.", ".?"), "K3ZZZ"}, {RemoveChars("??", ".?"), ""}, {NumberText(12), " 12"},
+      {NumberText(0), " 0"},               {NumberText(-3), "-3"},             {Grouped(0), "0"},
+      {Grouped(999), "999"},               {Grouped(1000), "1,000"},           {Grouped(999999), "999,999"},
+      {Grouped(1000000), "1,000,000"},     {Grouped(1234567), "1,234,567"},    {Grouped(-1234), "-1,234"},
+      {Grouped(-999), "-999"}};
+  for (const auto& [made, expected] : rows) EXPECT_EQ(made, expected);
+  const std::pair<long, long> numbers[] = {{CharSum("K3ZZZ"), 75 + 51 + 90 + 90 + 90}, {CharSum(""), 0},
+                                           {RoundEven(2.5), 2},   {RoundEven(3.5), 4},   {RoundEven(-2.5), -2},
+                                           {RoundEven(2.51), 3},  {RoundEven(-8.0), -8}};
+  for (const auto& [made, expected] : numbers) EXPECT_EQ(made, expected);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "platform/Scripted.h"
@@ -15,11 +14,9 @@
 namespace tarnix {
 namespace {
 
-namespace fs = std::filesystem;
-
 std::span<const char> Bytes(const std::string& text) { return {text.data(), text.size()}; }
 
-TEST(DiskFileStore, WritesAtAnOffsetOverAGapOfZeros) {
+TEST(DiskFileStore, WritesAtAnOffsetOverAGapOfZerosAndGivesKernelErrorsAsTexts) {
   TempFolder folder;
   DiskFileStore disk;
   const std::string path = folder.Path + "log.TNX";
@@ -32,18 +29,13 @@ TEST(DiskFileStore, WritesAtAnOffsetOverAGapOfZeros) {
   EXPECT_EQ(disk.Replace(path, Bytes("HDR")), std::nullopt);
   EXPECT_EQ(ReadFile(path), "HDR");
   EXPECT_EQ(disk.Size(folder.Path), std::nullopt);  // a folder is no file
-}
-
-// Errors as the kernel reports them, all of which a root user meets too.
-TEST(DiskFileStore, KernelErrorsComeBackAsTexts) {
-  DiskFileStore disk;
-  if (fs::exists("/dev/full")) {  // a device that is always full
+  // Errors as the kernel reports them, all of which a root user meets too.
+  if (std::filesystem::exists("/dev/full")) {  // a device that is always full
     EXPECT_EQ(disk.WriteAt("/dev/full", 60, Bytes("K3ZZZ")), "Can't write /dev/full: No space left on device");
     EXPECT_EQ(disk.Replace("/dev/full", Bytes("K3ZZZ")), "Can't write /dev/full: No space left on device");
   }
-  TempFolder folder;
   const std::string notFolder = folder.Path + "contest";
-  std::ofstream(notFolder) << "a file where the log's folder was";
+  WriteFile(notFolder, "a file where the log's folder was");
   EXPECT_EQ(disk.WriteAt(notFolder + "/log.TNX", 0, Bytes("HDR")),
             "Can't open " + notFolder + "/log.TNX: Not a directory");
   EXPECT_EQ(disk.Replace(notFolder + "/log.TNX", Bytes("HDR")),

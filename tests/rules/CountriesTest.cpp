@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <fstream>
 #include <memory>
-#include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "TestFiles.h"
 #include "config/CountrySeed.h"
 #include "core/Text.h"
 #include "rules/Countries.h"
@@ -32,10 +32,9 @@ const char* const kSmallList =
     "Sicily:                   15:  28:  EU:   37.50:   -14.00:    -1.0:  *IT9:\n"
     "    IT,IT9;\n";
 
-std::unique_ptr<CountryData> Read(const std::string& text, CountryFileResult* result = nullptr) {
+std::unique_ptr<CountryData> Read(const std::string& text, CountryFileResult& result) {
   auto data = std::make_unique<CountryData>();
-  CountryFileResult r = ReadCountryText(text, "test.dat", *data);
-  if (result) *result = r;
+  result = ReadCountryText(text, "test.dat", *data);
   return data;
 }
 
@@ -53,7 +52,6 @@ struct ReferenceEntry {
   std::string Pattern;
   int Row = 0, Zone = 0;
   bool ExactOnly = false;
-  std::size_t Length = 0;
 };
 
 std::vector<ReferenceEntry> ReferenceEntries(const CountryData& data, bool arrlDx) {
@@ -69,7 +67,6 @@ std::vector<ReferenceEntry> ReferenceEntries(const CountryData& data, bool arrlD
     }
     if (std::size_t equals = e.Pattern.find('='); equals != std::string::npos)
       e.Pattern = e.Pattern.substr(equals + 1), e.ExactOnly = true;
-    e.Length = e.Pattern.size();
     entries.push_back(e);
   }
   return entries;
@@ -82,7 +79,7 @@ std::string ReferenceFind(const CountryData& data, const std::vector<ReferenceEn
     bool exact = false;
     row = zone = 0;
     for (const ReferenceEntry *e = entries.data(), *end = e + entries.size(); e != end && !exact; ++e) {
-      std::size_t m = e->Length;
+      std::size_t m = e->Pattern.size();
       exact = m == length && std::memcmp(e->Pattern.data(), call.data(), m) == 0;
       if (exact || (length > m && m > best && !e->ExactOnly && std::memcmp(e->Pattern.data(), call.data(), m) == 0))
         row = e->Row, zone = e->Zone, best = m;
@@ -99,14 +96,14 @@ std::string ReferenceFind(const CountryData& data, const std::vector<ReferenceEn
 
 TEST(CountriesReader, FillsBothTablesFromHeadersAndContinuedPrefixLines) {
   CountryFileResult result;
-  auto data = Read(kSmallList, &result);
+  auto data = Read(kSmallList, result);
   ASSERT_TRUE(result.Ok) << result.Detail;
   EXPECT_EQ(data->CountryCount, 5);
   const CountryRecord& alpha = data->CountryTable[1];
-  EXPECT_EQ(alpha.Name + "|" + alpha.Zone + "|" + alpha.Continent + "|" + alpha.Prefix, "Alpha Land|05|NA|K");
+  EXPECT_EQ(alpha.Name + "|" + alpha.Zone + "|" + alpha.Continent + "|" + alpha.Prefix + "|" +
+                data->CountryTable[5].Prefix, "Alpha Land|05|NA|K|*IT9");
   EXPECT_FLOAT_EQ(alpha.Latitude, 37.60f);
   EXPECT_FLOAT_EQ(alpha.Longitude, -91.87f);
-  EXPECT_EQ(data->CountryTable[5].Prefix, "*IT9");
   std::vector<std::string> entries(data->PrefixTable.begin() + 1, data->PrefixTable.begin() + 1 + data->PrefixCount);
   EXPECT_EQ(entries, (std::vector<std::string>{"ZZ*", "K*1", "N*1", "W*1", "AA*1", "K6(3)[6]*1", "K7[6]*1",
                                                "=K1ABC(4)[7]*1", "=K0XYZ/P*1", "KG4*2", "KH6*3", "K6B*3", "I*4",
@@ -121,36 +118,32 @@ TEST(CountriesReader, DamagedOrOversizedFilesStopWithTheMessageAndKeepWhatWasRea
       "requires it.  Make sure it is in the same drive/directory used to start program.";
   auto data = std::make_unique<CountryData>();
   CountryFileResult result = ReadCountryFile("/nonexistent/cty.dat", *data);
-  EXPECT_EQ(result.Message, message);
   EXPECT_FALSE(result.Ok);
-
-  data = Read(std::string(kSmallList) + "Broken Land:  05:  08:\n  BL;\n", &result);
+  EXPECT_EQ(result.Message, message);
+  data = Read(std::string(kSmallList) + "Broken Land:  05:  08:\n  BL;\n", result);
   EXPECT_EQ(result.Message, message);
   EXPECT_EQ(result.Detail.rfind("test.dat, line 15: ", 0), 0u) << result.Detail;
-  EXPECT_EQ(data->CountryCount, 5);
-  EXPECT_EQ(data->CountryRowK, 0);
+  EXPECT_EQ(std::tuple(data->CountryCount, data->CountryRowK), std::tuple(5, 0));
   EXPECT_EQ(Find(*data, "K6BA"), "3|0|K6BA");  // what was read is searchable
-
   std::string text;
   for (int n = 1; n <= 351; ++n) text += "Land " + std::to_string(n) + ": 1: 1: EU: 0: 0: 0: L:\n";
-  data = Read(text, &result);
+  data = Read(text, result);
   EXPECT_EQ(data->CountryCount, 350);
   EXPECT_EQ(result.Detail, "test.dat, line 351: more than 350 countries");
-
   text = "Land: 1: 1: EU: 0: 0: 0: L:\n";
   for (int n = 0; n < 10001; ++n) text += "P" + std::to_string(n) + ",\n";
-  data = Read(text, &result);
+  data = Read(text, result);
   EXPECT_FALSE(result.Ok);
   EXPECT_EQ(data->PrefixTable[data->PrefixCount], "P9999*1");
-
   // Control characters and stray separators make odd entries, not a fault.
-  data = Read("X: 1: 1: EU: 0: 0: 0: X:\n\x01\x02,,;;\n\xff:x;\n", &result);
+  data = Read("X: 1: 1: EU: 0: 0: 0: X:\n\x01\x02,,;;\n\xff:x;\n", result);
   EXPECT_TRUE(result.Ok);
   EXPECT_EQ(data->PrefixTable[3] + data->PrefixTable[4], ";*1\xff:x*1");
 }
 
 TEST(CountriesFind, EveryRuleOnASmallList) {
-  auto data = Read(kSmallList);
+  CountryFileResult result;
+  auto data = Read(kSmallList, result);
   const std::tuple<const char*, int, const char*> cases[] = {
       {"K1ABC", Cqww, "1|4|K1ABC"},    // "=" entry with its zone
       {"K1ABCD", Cqww, "1|0|K1ABCD"},  // "=" needs the whole call
@@ -177,11 +170,9 @@ TEST(CountriesFind, EveryRuleOnASmallList) {
 class CountriesOnSeededList : public ::testing::Test {
  protected:
   void SetUp() override {
-    std::ifstream file(std::string(HamradioFilesDir) + "cty.dat", std::ios::binary);
-    if (!file) GTEST_SKIP() << "hamradio-files is not installed";
-    std::ostringstream text;
-    text << file.rdbuf();
-    ASSERT_TRUE(ReadCountryText(MakeSeedCountryFile(text.str()), "cty.dat", *data).Ok);
+    std::string text = ReadFile(std::string(HamradioFilesDir) + "cty.dat");
+    if (text.empty()) GTEST_SKIP() << "hamradio-files is not installed";
+    ASSERT_TRUE(ReadCountryText(MakeSeedCountryFile(text), "cty.dat", *data).Ok);
   }
   std::string NameOf(const std::string& call, int contestIndex = Cqww) {
     std::string found = Find(*data, call, contestIndex);
@@ -223,7 +214,7 @@ TEST_F(CountriesOnSeededList, IndexedLookupEqualsThePlainScan) {
   EXPECT_GT(calls.size(), 5000u);
 }
 
-TEST(CountriesWpx, PrefixOfEveryCallShape) {
+TEST(CountriesPrefixes, WpxPrefixOfEveryCallShapeNAZoneByCallAreaAndClassOfWorkedPrefix) {
   const std::pair<const char*, const char*> cases[] = {
       {"K3ZZZ", "K3"},      {"3D2XY", "3D2"},       {"ABCD", "AB0"},       {"K3ZZZ/P", "K3"},   {"K3ZZZ/KH6", "KH6"},
       {"VP2E/K3ZZZ", "VP2E"}, {"K3ZZZ/3", "K3"},    {"W6XYZ/3", "W3"},     {"K3ZZZ/MM", "K3"},  {"K3ZZZ/N", "K3"},
@@ -231,9 +222,6 @@ TEST(CountriesWpx, PrefixOfEveryCallShape) {
       {"4XAB", "4X0"},      {"K", "K0"},            {"C6AXX", "C6"},       {"C6A/K3ZZZ", "C6"}, {"KH6XX/AM", "AM0"},
       {"K3ZZZ/VP2E", "VP2E"}, {"3/K1ABC", "3/K3"}};  // a digit in front also loses the last two characters
   for (auto [call, prefix] : cases) EXPECT_EQ(GetWPXPrefix(call), prefix) << call;
-}
-
-TEST(CountriesNA, ZoneByCallAreaAndClassOfWorkedPrefix) {
   const std::pair<const char*, int> zones[] = {
       {"VY1AA", 1}, {"VE8AA", 1}, {"VO2AA", 2}, {"VY2AA", 2}, {"VO1AA", 5}, {"VE3AA", 4}, {"VE7AA", 3}, {"XK9A", 5},
       {"K6AA", 3},  {"W1AW", 5},  {"N0AA", 4},  {"AA5B", 4},  {"AJ1A", 5},  {"K1", 5},    {"A1", 0},    {"AH6A", 0},
@@ -255,13 +243,13 @@ TEST(CountriesHeading, EveryQuadrantAndTheNameLine) {
                                 "36.40: -138.38", "51.00: -10.00"};
   std::string text;
   for (const char* point : points) text += std::string("P: 1: 1: EU: ") + point + ": 0: P:\n";
-  auto data = Read(text);
+  CountryFileResult result;
+  auto data = Read(text, result);
   data->CountryTable[10].Name = "Fed. Rep. of Germany";
   Settings station;
   const int expected[] = {0, 0, 90, 180, 270, 44, 135, 225, 316};  // NE: atan(0.98481) is 44.56 degrees
   for (int row = 0; row <= 8; ++row) EXPECT_EQ(GetHeading(*data, station, row), expected[row]) << row;
   EXPECT_EQ(GetHeading(*data, station, 351), 999);
-
   station.StationLatitude = 41.71f;  // Newington, Connecticut
   station.StationLongitude = -72.73f;
   EXPECT_EQ(GetHeading(*data, station, 9), 336);  // Japan: h is -24.76
@@ -269,7 +257,6 @@ TEST(CountriesHeading, EveryQuadrantAndTheNameLine) {
   station.StationLatitude = 0;  // the cache is kept for the whole run
   EXPECT_EQ(NameHeadingLine(*data, station, 10), "Name: Fed. Rep. of Germany Hdg: 49");
   EXPECT_EQ(data->CountryTable[10].Heading, "49");
-
   data->CountryTable[5].Name = "United States of America";
   station.StationLongitude = 0;
   EXPECT_EQ(NameHeadingLine(*data, station, 5), "Name: United States of AmerHdg: 44");

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 
 #include "rules/Parsers.h"
 
@@ -17,12 +18,12 @@ TEST(Parsers, FieldsKeptBesideTheRecord) {
   ContestState cqp;
   cqp.ContestIndex = Cqp;
   ReceivedFields f;
+  auto cqpFields = [&] { return std::to_string(f.CQPNumber) + "|" + f.CQPMult + "|" + std::to_string(f.CountyLine); };
   // A refused parse keeps what it reached before the multiplier test.
   EXPECT_EQ(NumberMultParse("12345 ALA", cqp, *tables, f).Message, "Multiplier is Invalid.");
-  EXPECT_EQ(std::to_string(f.CQPNumber) + "|" + f.CQPMult + "|" + std::to_string(f.CountyLine), "1234|5 ALA|0");
+  EXPECT_EQ(cqpFields(), "1234|5 ALA|0");
   NumberMultParse(" 7 xyz/ ", cqp, *tables, f);
-  EXPECT_EQ(std::to_string(f.CQPNumber) + "|" + f.CQPMult + "|" + std::to_string(f.CountyLine), "7|XYZ|1");
-
+  EXPECT_EQ(cqpFields(), "7|XYZ|1");
   SprintParse("5 JOECA", f);
   EXPECT_EQ(f.SprintName + "|" + f.SprintMult, "JOE|CA");
   SprintParse("12 ALAN NEWFOUNDLAND", f);
@@ -37,35 +38,30 @@ TEST(Parsers, TenSerialOutOfRangeSelectsTheFieldWithoutRefusing) {
   auto tables = std::make_unique<MultiplierTables>();
   ReceivedFields f;
   f.TenNumber = 77;
-  for (const char* exchange : {"0", " 00001 "}) {
+  for (std::string exchange : {"0", " 00001 "}) {
     ParseResult r = TenParse(exchange, *tables, f);
     EXPECT_FALSE(r.Error) << exchange;
     EXPECT_EQ(r.Title + "|" + r.Message, "Invalid Serial Number|Number must be between 1 and 9999.");
-    EXPECT_EQ(r.SelStart, 0);
-    EXPECT_EQ(r.SelLength, static_cast<int>(std::string(exchange).size()));
-    EXPECT_EQ(f.TenNumber, 77);
+    EXPECT_EQ(std::tuple(r.SelStart, r.SelLength, f.TenNumber), std::tuple(0, int(exchange.size()), 77));
   }
 }
 
 TEST(Parsers, CqwwPrefillIsABlankAndTheZone) {
-  const char* list =
-      "Alpha Land:               05:  08:  NA:   37.60:    91.87:     5.0:  K:\n"
-      "    K,N,W,K6(3);\n"
-      "Fed. Rep. of Germany:     14:  28:  EU:   51.00:   -10.00:    -1.0:  DL:\n"
-      "    DL;\n"
-      "Mexico:                   06:  10:  NA:   21.32:   100.23:     6.0:  XE:\n"
-      "    XE;\n";
   auto countries = std::make_unique<CountryData>();
-  ASSERT_TRUE(ReadCountryText(list, "test.dat", *countries).Ok);
+  ASSERT_TRUE(ReadCountryText("Alpha Land:               05:  08:  NA:   37.60:    91.87:     5.0:  K:\n"
+                              "    K,N,W,K6(3);\n"
+                              "Fed. Rep. of Germany:     14:  28:  EU:   51.00:   -10.00:    -1.0:  DL:\n"
+                              "    DL;\n"
+                              "Mexico:                   06:  10:  NA:   21.32:   100.23:     6.0:  XE:\n"
+                              "    XE;\n",
+                              "test.dat", *countries).Ok);
   ContestState cqww;
   cqww.ContestIndex = Cqww;
-  struct Case { const char* call; const char* fill; };
-  const Case cases[] = {{"K6ABC", " 3"},     // the entry's zone
-                        {"K3ZZZ", " 05"},    // the US zone by call area, two digits
-                        {"DL1ABC", " 14"},   // the country's zone
-                        {"XE1ABC", " 06"},
-                        {"ZZ9ZZ", " "}};     // no country
-  for (const Case& c : cases) EXPECT_EQ(CQWWZonePrefill(*countries, cqww, c.call), c.fill) << c.call;
+  // The entry's zone; the US zone by call area, two digits; the country's
+  // zone; no country.
+  for (auto [call, fill] : {std::pair{"K6ABC", " 3"}, {"K3ZZZ", " 05"}, {"DL1ABC", " 14"}, {"XE1ABC", " 06"},
+                            {"ZZ9ZZ", " "}})
+    EXPECT_EQ(CQWWZonePrefill(*countries, cqww, call), fill) << call;
 }
 
 }  // namespace
