@@ -10,12 +10,9 @@
 #include <vector>
 
 #include "BenchLogs.h"
-#include "core/ChCoForm.h"
 #include "core/LogStore.h"
 #include "core/Text.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
-#include "platform/Scripted.h"
+#include "operating/ScriptedLogger.h"
 #include "rules/DupeCheck.h"
 
 namespace {
@@ -101,28 +98,21 @@ BENCHMARK(BM_ScanAllSumsCollideFullPortableTable)->Unit(benchmark::kMicrosecond)
 void BM_ExchangeFocusStep(benchmark::State& state) {
   auto calls = CollidingCalls();
   TempFolder home;
-  ScriptedPlatform desk;
-  desk.Time.Set({2026, 11, 22, 0, 0, 0});
-  auto ctx = MakeContext(home.Path);
-  RecordingStation station;
-  LogForm form(*ctx, desk.View, station.View);
-  QueueContestChoice(desk.Forms, Cqww);
-  form.mnuFileNewLog_Click();
-  for (const std::string& call : calls) {
-    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form.InData_Change(ExchangeBox, "5", 1);
-    form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
-  }
-  if (ctx->Log.QSOCount != MaxQsos + 1) state.SkipWithError("the log did not fill");
+  ScriptedLogger run(home.Path, ScriptedLogger::Start::Fresh);
+  run.Desk.Time.Set({2026, 11, 22, 0, 0, 0});
+  run.NewLog(Cqww);
+  for (const std::string& call : calls) run.Enter(call, "5");
+  if (run.Ctx.Log.QSOCount != MaxQsos + 1) state.SkipWithError("the log did not fill");
+  LogForm& form = run.Form;
   // Two logged calls in turn, so that each focus step scans for a new call.
   std::size_t turn = 0;
   for (auto _ : state) {
     form.SetFocus(CallBox);
     form.InData[CallBox].Text = calls[calls.size() - 1 - turn++ % 2];
     form.SetFocus(ExchangeBox);
-    benchmark::DoNotOptimize(form.DupeScan().IsDupe);
+    benchmark::DoNotOptimize(run.Dupes().IsDupe);
   }
-  if (!form.DupeScan().IsDupe) state.SkipWithError("the call was not found a dupe");
+  if (!run.Dupes().IsDupe) state.SkipWithError("the call was not found a dupe");
 }
 BENCHMARK(BM_ExchangeFocusStep)->Unit(benchmark::kMicrosecond);
 

@@ -6,11 +6,8 @@
 #include <vector>
 
 #include "BenchLogs.h"
-#include "core/ChCoForm.h"
 #include "core/LogStore.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
-#include "platform/Scripted.h"
+#include "operating/ScriptedLogger.h"
 
 namespace {
 
@@ -47,23 +44,16 @@ void BM_ProcessEntryFullLog(benchmark::State& state) {
   auto calls = MakeCalls(MaxQsos);
   for (auto _ : state) {
     state.PauseTiming();
-    ScriptedPlatform desk;
-    desk.Time.Set({2026, 11, 22, 0, 0, 0});
     TempFolder home;
-    auto ctx = MakeContext(home.Path);
-    RecordingStation station;
-    LogForm form(*ctx, desk.View, station.View);
-    QueueContestChoice(desk.Forms, Generic);
-    form.mnuFileNewLog_Click();
+    ScriptedLogger run(home.Path, ScriptedLogger::Start::Fresh);
+    run.Desk.Time.Set({2026, 11, 22, 0, 0, 0});
+    run.NewLog(Generic);
     state.ResumeTiming();
     for (const std::string& call : calls) {
-      form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-      form.SetFocus(ExchangeBox);
-      form.InData_Change(ExchangeBox, "599 NOTES", 9);
-      form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
-      desk.Time.Advance(10 * 1000);
+      run.Enter(call, "599 NOTES");
+      run.Desk.Time.Advance(10 * 1000);
     }
-    benchmark::DoNotOptimize(ctx->Log.QSOCount);
+    benchmark::DoNotOptimize(run.Ctx.Log.QSOCount);
   }
   state.SetItemsProcessed(state.iterations() * MaxQsos);
 }
@@ -74,27 +64,20 @@ BENCHMARK(BM_ProcessEntryFullLog)->Unit(benchmark::kMillisecond);
 void BM_OpenFullLog(benchmark::State& state) {
   auto calls = MakeCalls(MaxQsos);
   TempFolder home;
-  ScriptedPlatform desk;
-  desk.Time.Set({2026, 11, 22, 0, 0, 0});
-  auto ctx = MakeContext(home.Path);
-  RecordingStation station;
-    LogForm form(*ctx, desk.View, station.View);
-  QueueContestChoice(desk.Forms, Generic);
-  form.mnuFileNewLog_Click();
+  ScriptedLogger run(home.Path, ScriptedLogger::Start::Fresh);
+  run.Desk.Time.Set({2026, 11, 22, 0, 0, 0});
+  run.NewLog(Generic);
   for (const std::string& call : calls) {
-    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form.InData_KeyDown(CallBox, KeyEnter, 0);
-    desk.Time.Advance(10 * 1000);
+    run.Enter(call, "");
+    run.Desk.Time.Advance(10 * 1000);
   }
-  desk.Files.Names.push_back(home.Path + "full.TNX");
-  form.mnuFileSave_Click();
+  run.SaveAs(home.Path + "full.TNX");
   for (auto _ : state) {
-    desk.Boxes.Answers.push_back(MsgAnswer::Yes);  // open a different one
-    desk.Files.Names.push_back(home.Path + "full.TNX");
-    form.mnuFileOpenLog_Click();
-    benchmark::DoNotOptimize(ctx->Log.QSOCount);
+    run.Desk.Boxes.Answers.push_back(MsgAnswer::Yes);  // open a different one
+    run.Open(home.Path + "full.TNX");
+    benchmark::DoNotOptimize(run.Ctx.Log.QSOCount);
   }
-  if (ctx->Log.QSOCount != MaxQsos + 1) state.SkipWithError("the log did not open whole");
+  if (run.Ctx.Log.QSOCount != MaxQsos + 1) state.SkipWithError("the log did not open whole");
 }
 BENCHMARK(BM_OpenFullLog)->Unit(benchmark::kMillisecond);
 

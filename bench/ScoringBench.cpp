@@ -11,11 +11,7 @@
 #include <vector>
 
 #include "BenchLogs.h"
-#include "core/ChCoForm.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
-#include "operating/Startup.h"
-#include "platform/Scripted.h"
+#include "operating/ScriptedLogger.h"
 
 namespace {
 
@@ -26,38 +22,27 @@ using bench::MakeCalls;
 // main form on one of the six contest bands with the exchange of its place.
 struct SavedLog {
   TempFolder Home;
-  ScriptedPlatform Desk;
-  RecordingStation Station;
-  std::unique_ptr<Context> Ctx = MakeContext(Home.Path);
-  std::unique_ptr<LogForm> Form;
+  ScriptedLogger Run{Home.Path, ScriptedLogger::Start::Program};
   std::string Path = Home.Path + "full.TNX";
   bool Ok = false;
 
   SavedLog(const ContestChoice& choice, const std::vector<std::string>& calls,
            const std::function<std::string(int)>& exchange) {
-    if (!StartProgram(*Ctx, Desk.View)) return;
-    Form = std::make_unique<LogForm>(*Ctx, Desk.View, Station.View);
-    Desk.Time.Set({2026, 11, 28, 0, 0, 0});
-    QueueContestChoice(Desk.Forms, choice);
-    Form->mnuFileNewLog_Click();
+    if (!Run.Started) return;
+    Run.Desk.Time.Set({2026, 11, 28, 0, 0, 0});
+    Run.NewLog(choice);
     for (std::size_t i = 0; i < calls.size(); ++i) {
-      Ctx->Contest.BandIndex = static_cast<int16_t>(1 + i % 6);
-      std::string text = exchange(static_cast<int>(i));
-      Form->InData_Change(CallBox, calls[i], static_cast<int>(calls[i].size()));
-      Form->SetFocus(ExchangeBox);
-      Form->InData_Change(ExchangeBox, text, static_cast<int>(text.size()));
-      Form->InData_KeyDown(ExchangeBox, KeyEnter, 0);
-      Desk.Time.Advance(10 * 1000);
+      Run.Ctx.Contest.BandIndex = static_cast<int16_t>(1 + i % 6);
+      Run.Enter(calls[i], exchange(static_cast<int>(i)));
+      Run.Desk.Time.Advance(10 * 1000);
     }
-    Desk.Files.Names.push_back(Path);
-    Form->mnuFileSave_Click();
-    Ok = Ctx->Log.QSOCount == static_cast<int>(calls.size()) + 1;
+    Run.SaveAs(Path);
+    Ok = Run.Ctx.Log.QSOCount == static_cast<int>(calls.size()) + 1;
   }
 
   void Open() {
-    Desk.Boxes.Answers.push_back(MsgAnswer::Yes);  // open a different one
-    Desk.Files.Names.push_back(Path);
-    Form->mnuFileOpenLog_Click();
+    Run.Desk.Boxes.Answers.push_back(MsgAnswer::Yes);  // open a different one
+    Run.Open(Path);
   }
 };
 
@@ -66,12 +51,12 @@ void OpenLog(benchmark::State& state, SavedLog& log) {
     state.SkipWithError("the log could not be made");
     return;
   }
-  const int16_t mults = log.Ctx->Log.TotalMults;
+  const int16_t mults = log.Run.Ctx.Log.TotalMults;
   for (auto _ : state) {
     log.Open();
-    benchmark::DoNotOptimize(log.Ctx->Log.TotalMults);
+    benchmark::DoNotOptimize(log.Run.Ctx.Log.TotalMults);
   }
-  if (log.Ctx->Log.QSOCount != MaxQsos + 1 || log.Ctx->Log.TotalMults != mults)
+  if (log.Run.Ctx.Log.QSOCount != MaxQsos + 1 || log.Run.Ctx.Log.TotalMults != mults)
     state.SkipWithError("the replay did not rebuild the log");
   state.counters["mults"] = mults;
   state.SetItemsProcessed(state.iterations() * MaxQsos);

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <istream>
 #include <map>
+#include <optional>
 #include <ostream>
 
 #include "Options.h"
@@ -30,21 +31,14 @@ void PrintRecords(std::ostream& out, Context& ctx) {
 }
 
 // What an operator does for one line: the first word typed into the call
-// box, the focus to the exchange box, the rest (if any) as the exchange, and
-// Enter. Text left in the boxes by a refused entry is cleared first, as the
-// operator would overtype it.
-void EnterLine(LogForm& form, const std::string& line) {
+// box, the rest (if any) put in the exchange box, and Enter. Text left in the
+// boxes by a refused entry is cleared first, as the operator would overtype
+// it.
+void EnterLine(ScriptedLogger& logger, const std::string& line) {
   std::string trimmed = Trim(line);
   std::size_t blank = trimmed.find(' ');
-  std::string call = trimmed.substr(0, blank);
   std::string rest = blank == std::string::npos ? std::string() : LTrim(trimmed.substr(blank));
-  form.SetFocus(CallBox);
-  form.InData_Change(CallBox, "", 0);
-  form.InData_Change(ExchangeBox, "", 0);
-  for (char c : call) form.InData_KeyPress(CallBox, c);
-  form.SetFocus(ExchangeBox);
-  if (!rest.empty()) form.InData_Change(ExchangeBox, rest, static_cast<int>(rest.size()));
-  form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
+  logger.Enter(trimmed.substr(0, blank), rest.empty() ? std::nullopt : std::optional<std::string>(rest));
 }
 
 // Reads QSO lines and clock lines from in; false on a bad clock line. With
@@ -63,8 +57,8 @@ bool EnterLines(Session& session, LocalDateTime now, std::istream& in, std::ostr
       session.Desk.Time.Set(now);
       continue;
     }
-    EnterLine(session.Form, line);
-    if (progress) *progress << "ENTERED " << session.Ctx->Log.QSOCount - 1 << std::endl;
+    EnterLine(session, line);
+    if (progress) *progress << "ENTERED " << session.Ctx.Log.QSOCount - 1 << std::endl;
   }
   return true;
 }
@@ -118,11 +112,9 @@ int New(const Args& args, std::ostream& out, std::ostream& err) {
   Session session(out, scratch.Path);
   if (!session.Started) return 1;
   session.Desk.Time.Set(options.Clock);
-  QueueContestChoice(session.Desk.Forms, options.Choice);
-  session.Form.mnuFileNewLog_Click();
-  session.Desk.Files.Names.push_back(Absolute(positional[0]));
-  session.Form.mnuFileSave_Click();
-  return session.Ctx->Log.LogState == LogStateKind::Named ? 0 : 1;
+  session.NewLog(options.Choice);
+  session.SaveAs(Absolute(positional[0]));
+  return session.Ctx.Log.LogState == LogStateKind::Named ? 0 : 1;
 }
 
 int Enter(const Args& args, std::istream& in, std::ostream& out, std::ostream& err) {
@@ -146,13 +138,12 @@ int Enter(const Args& args, std::istream& in, std::ostream& out, std::ostream& e
   if (!session.Started) return 1;
   session.Desk.Time.Set(options.Clock);
   if (options.HasContest) {
-    QueueContestChoice(session.Desk.Forms, options.Choice);
-    session.Form.mnuFileNewLog_Click();
+    session.NewLog(options.Choice);
   } else if (!session.Open(Absolute(positional[0]))) {
     return 1;
   }
   if (!EnterLines(session, options.Clock, in, err, progress ? &out : nullptr)) return 2;
-  PrintRecords(out, *session.Ctx);
+  PrintRecords(out, session.Ctx);
   return 0;
 }
 
@@ -163,7 +154,7 @@ int Dump(const Args& args, std::ostream& out, std::ostream& err) {
   }
   Session session(out);
   if (!session.Started || !session.Open(Absolute(args[0]))) return 1;
-  Context& ctx = *session.Ctx;
+  Context& ctx = session.Ctx;
   const LogHeader& header = session.Form.Document.SavedHeader;
   std::string code = header.HdrContest.Str();
   out << "HEADER\t" << code.substr(0, 3) << '\t' << code.substr(3, 2) << '\t' << header.HdrQth.Str() << '\t'
@@ -189,13 +180,12 @@ int Demo(std::ostream& out) {
   Session session(out, scratch.Path);
   if (!session.Started) return 1;
   session.Desk.Time.Set({2026, 11, 22, 14, 0, 0});
-  QueueContestChoice(session.Desk.Forms, Generic);
+  session.NewLog(Generic);
   LogForm& form = session.Form;
-  form.mnuFileNewLog_Click();
   out << form.FileIDLabel.Caption << '\n' << form.QSONrLabel.Caption << '\n';
   for (const char* qso : kQsos) {
     session.Desk.Time.Advance(97 * 1000);
-    EnterLine(form, qso);
+    EnterLine(session, qso);
     out << form.LastQSOLabel.Caption << '\n' << form.QSONrLabel.Caption << '\n';
   }
   out << form.ScoreLabel.Caption << '\n' << form.MultsLabel.Caption << '\n';

@@ -44,7 +44,7 @@ int Dupe(const std::vector<std::string>& args, std::ostream& out, std::ostream& 
   if (!session.Started ||
       !session.Open(std::filesystem::absolute(positional[0]).lexically_normal().string()))
     return 1;
-  Context& ctx = *session.Ctx;
+  Context& ctx = session.Ctx;
   LogForm& form = session.Form;
   if (band != 0) {
     // As a change of band on the keyboard: the active radio keeps it too.
@@ -56,11 +56,7 @@ int Dupe(const std::vector<std::string>& args, std::ostream& out, std::ostream& 
   // The boxes of the check print after the result lines.
   std::vector<MessageBoxRequest> boxes;
   session.Desk.Boxes.OnShow = [&boxes](const MessageBoxRequest& box) { boxes.push_back(box); };
-  form.SetFocus(CallBox);
-  for (char c : positional[1]) form.InData_KeyPress(CallBox, c);
-  form.SetFocus(ExchangeBox);
-
-  const DupeResult& r = form.DupeScan();
+  const DupeResult& r = session.CheckCall(positional[1]);
   out << "FoundInLog\t" << r.FoundInLog << "\nFoundOnBand\t" << r.FoundOnBand << "\nIsDupe\t" << r.IsDupe
       << "\nDupeQSO\t" << r.DupeQSO << "\nPortableMatch\t" << r.PortableMatch << "\nDUPELINE\t"
       << (form.lblDupe.Visible ? form.lblDupe.Caption : std::string()) << '\n';

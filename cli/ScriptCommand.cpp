@@ -9,7 +9,6 @@
 #include "Options.h"
 #include "Session.h"
 #include "core/Text.h"
-#include "operating/BoxEditing.h"
 
 namespace tarnix::cli {
 namespace {
@@ -70,11 +69,9 @@ std::string RunLine(Session& session, const std::string& line, std::ostream& out
   std::string action = line.substr(0, blank);
   std::string rest = blank == std::string::npos ? std::string() : line.substr(blank + 1);
   if (action == "type" && !rest.empty()) {
-    for (char c : rest) form.TypeCharacter(c);
+    session.Type(rest);
   } else if (action == "key") {
-    std::optional<NamedKey> key = KeyByName(Trim(rest));
-    if (!key) return "no key named '" + Trim(rest) + "'";
-    if (!form.PressKey(key->Code, key->Shift)) EditFocusedBox(form, key->Code);
+    if (!session.Key(Trim(rest))) return "no key named '" + Trim(rest) + "'";
   } else if (action == "answer" && kAnswers.count(Trim(rest))) {
     session.Desk.Boxes.Answers.push_back(kAnswers.at(Trim(rest)));
   } else if (action == "clock") {
@@ -82,12 +79,11 @@ std::string RunLine(Session& session, const std::string& line, std::ostream& out
     if (!ParseClock(Trim(rest), now) || Trim(rest).size() < 16) return "bad clock '" + rest + "'";
     session.Desk.Time.Set(now);
   } else if (action == "show" && Trim(rest).empty()) {
-    Show(form, *session.Ctx, out);
+    Show(form, session.Ctx, out);
   } else {
     return "bad action '" + line + "'";
   }
-  for (const std::string& request : session.Station.Requests) out << "REQUEST " << request << '\n';
-  session.Station.Requests.clear();
+  for (const std::string& request : session.Station.TakeRequests()) out << "REQUEST " << request << '\n';
   return {};
 }
 
@@ -122,8 +118,7 @@ int Script(const Args& args, std::ostream& out, std::ostream& err) {
   if (!session.Started) return 1;
   session.Desk.Time.Set(options.Clock);
   if (logName.empty()) {
-    QueueContestChoice(session.Desk.Forms, options.Choice);
-    session.Form.mnuFileNewLog_Click();
+    session.NewLog(options.Choice);
   } else if (!session.Open(Absolute(logName))) {
     return 1;
   }

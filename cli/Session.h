@@ -1,35 +1,20 @@
 #pragma once
-// One run of the logger without a window: the scripted desktop, the program
-// state read from the program folder, and the main form model. Message boxes
-// print as "MSGBOX <title>|<text>" and get their default answer.
+// One run of the logger without a window: the headless logger started on the
+// program folder. Message boxes print as "MSGBOX <title>|<text>" and get
+// their default answer.
 
-#include <memory>
 #include <ostream>
 #include <string>
 
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
-#include "platform/Scripted.h"
+#include "operating/ScriptedLogger.h"
 
 namespace tarnix::cli {
 
-class Session {
+class Session : public ScriptedLogger {
  public:
   // appPath empty: the program folder of the user ($TARNIX_HOME...).
+  // Started is false when the start failed (its MSGBOX line says why).
   explicit Session(std::ostream& out, const std::string& appPath = {});
-
-  // False when the start failed (its MSGBOX line says why).
-  bool Started = false;
-  // File > Open with the dialog answered by path; true when the log is open.
-  bool Open(const std::string& path);
-
-  ScriptedPlatform Desk;
-  RecordingStation Station;
-  std::unique_ptr<Context> Ctx;
-  LogForm Form;
-
- private:
-  std::unique_ptr<Context> Begin(std::ostream& out, const std::string& appPath);
 };
 
 }  // namespace tarnix::cli

@@ -13,8 +13,7 @@
 #include "core/Text.h"
 #include "operating/BoxEditing.h"
 #include "operating/Keys.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
+#include "operating/ScriptedLogger.h"
 #include "operating/Startup.h"
 #include "platform/FileStore.h"
 #include "platform/Scripted.h"
@@ -154,17 +153,11 @@ const std::vector<ContestChoice>& OfferedChoices() {
 
 // A new log, as File > New Log makes it in the started program, of the
 // station a byte chooses among the offered ones.
-struct NewLogRun {
-  Context& Ctx;
-  ScriptedPlatform Desk;
-  RecordingStation Station;
-  LogForm Form;
-
-  explicit NewLogRun(unsigned char choice) : Ctx(Program().Fresh()), Form(Ctx, Desk.View, Station.View) {
+struct NewLogRun : ScriptedLogger {
+  explicit NewLogRun(unsigned char choice) : ScriptedLogger(Program().Fresh()) {
     Desk.Time.Set(kClock);
     const std::vector<ContestChoice>& choices = OfferedChoices();
-    QueueContestChoice(Desk.Forms, choices[choice % choices.size()]);
-    Form.mnuFileNewLog_Click();
+    NewLog(choices[choice % choices.size()]);
   }
   bool Opened() const { return Ctx.Log.LogState == LogStateKind::Unnamed; }
 };
@@ -179,29 +172,25 @@ Outcome OpenLogFile(std::string_view bytes) {
   std::filesystem::remove(keptPath);
   WriteBytes(path, bytes);
 
-  ScriptedPlatform desk;
-  desk.Time.Set(kClock);
-  RecordingStation station;
-  LogForm form(ctx, desk.View, station.View);
-  desk.Files.Names.push_back(path);
-  form.mnuFileOpenLog_Click();
+  ScriptedLogger run(ctx);
+  run.Desk.Time.Set(kClock);
+  run.Open(path);
+  const ScriptedPlatform& desk = run.Desk;
 
   Outcome outcome;
   outcome.Summary = Titles(desk);
   outcome.Summary += "log: " + std::string(LogStateName(ctx.Log.LogState)) + ", contest " +
                      std::to_string(ctx.Contest.ContestIndex) + ", record " + std::to_string(ctx.Log.RecordLength) +
-                     ", QSOs " + std::to_string(ctx.Log.QSOCount - 1) + (form.EndRequested ? ", program ends" : "") +
+                     ", QSOs " + std::to_string(ctx.Log.QSOCount - 1) + (run.Form.EndRequested ? ", program ends" : "") +
                      "\n";
   if (ctx.Log.LogState == LogStateKind::Named && ctx.Log.QSOCount > 1) {
     // The operator's next step on an opened log: a call typed and the call
     // box left, which scans the loaded records for it.
     std::string call = LoggedRecord(ctx.Log, ctx.Log.QSOCount - 1).QCall.Trimmed();
     std::size_t shown = desk.Boxes.Shown.size();
-    form.SetFocus(CallBox);
-    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form.SetFocus(ExchangeBox);
+    const DupeResult& scan = run.CheckCall(call, ScriptedLogger::Input::Pasted);
     outcome.Summary += Titles(desk, shown);
-    outcome.Summary += "dupe check: " + std::string(form.DupeScan().IsDupe ? "dupe" : form.DupeScan().FoundInLog ? "in log" : "new") + "\n";
+    outcome.Summary += "dupe check: " + std::string(scan.IsDupe ? "dupe" : scan.FoundInLog ? "in log" : "new") + "\n";
   }
   std::filesystem::remove(path);
   std::filesystem::remove(keptPath);
@@ -322,8 +311,7 @@ Outcome EnterExchanges(std::string_view bytes) {
   NewLogRun run(static_cast<unsigned char>(bytes[0]));
   Context& ctx = run.Ctx;
   ScriptedPlatform& desk = run.Desk;
-  LogForm& form = run.Form;
-  auto header = EncodeHeader(form.Document.SavedHeader);
+  auto header = EncodeHeader(run.Form.Document.SavedHeader);
   outcome.Summary = "contest " + std::to_string(ctx.Contest.ContestIndex) + ", header \"" +
                     std::string(header.begin() + 20, header.end()) + "\"\n";
   if (!run.Opened()) {
@@ -338,11 +326,7 @@ Outcome EnterExchanges(std::string_view bytes) {
     std::string exchange = blank == std::string::npos ? std::string() : LTrim(trimmed.substr(blank));
     const int before = ctx.Log.QSOCount;
     const std::size_t shown = desk.Boxes.Shown.size();
-    form.SetFocus(CallBox);
-    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form.SetFocus(ExchangeBox);
-    form.InData_Change(ExchangeBox, exchange, static_cast<int>(exchange.size()));
-    form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
+    run.Enter(call, exchange, ScriptedLogger::Input::Pasted);
     for (std::size_t i = shown; i < desk.Boxes.Shown.size(); ++i)
       outcome.Summary += desk.Boxes.Shown[i].Title + "|" + desk.Boxes.Shown[i].Text + "|";
     outcome.Summary += ctx.Log.QSOCount > before ? "logged\n" : "refused\n";

@@ -17,11 +17,8 @@
 #include <vector>
 
 #include "config/SettingsFile.h"
-#include "core/ChCoForm.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
+#include "operating/ScriptedLogger.h"
 #include "operating/Startup.h"
-#include "platform/Scripted.h"
 #include "TestFiles.h"
 
 namespace tarnix {
@@ -32,38 +29,25 @@ namespace fs = std::filesystem;
 const std::vector<std::string> kCalls = {"K3ZZZ", "W1AW", "N5DX", "DL1ABC", "JA1XYZ", "VE3EJ", "G4BUO", "OH2BH"};
 
 // A program with its main form, in a program folder of its own.
-struct Station {
+struct Folder {
   TempFolder Home;
-  std::unique_ptr<Context> Ctx = MakeContext(Home.Path);
-  ScriptedPlatform Desk;
-  RecordingStation Radios;
-  LogForm Form{*Ctx, Desk.View, Radios.View};
+};
+struct Station : Folder, ScriptedLogger {
+  Station() : ScriptedLogger(Home.Path, Start::Fresh) { Desk.Time.Set({2026, 11, 22, 12, 0, 0}); }
 
-  Station() { Desk.Time.Set({2026, 11, 22, 12, 0, 0}); }
-
-  void NewLog() {
-    QueueContestChoice(Desk.Forms, Generic);
-    Form.mnuFileNewLog_Click();
-  }
+  void NewLog() { ScriptedLogger::NewLog(Generic); }
   // A new log saved as name in the program folder.
   std::string NamedLog(const std::string& name) {
     NewLog();
-    std::string path = Home.Path + name;
-    Desk.Files.Names.push_back(path);
-    Form.mnuFileSave_Click();
-    return path;
+    SaveAs(Home.Path + name);
+    return Home.Path + name;
   }
-  void Log(const std::string& call) {
-    Form.SetFocus(CallBox);
-    Form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    Form.SetFocus(ExchangeBox);
-    Form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
-  }
+  void Log(const std::string& call) { Enter(call, ""); }
   // Enter again on what an aborted entry left in the boxes.
   void EnterAgain() { Form.InData_KeyDown(ExchangeBox, KeyEnter, 0); }
   std::vector<std::string> CallsInMemory() {
     std::vector<std::string> calls;
-    for (int n = 1; n < Ctx->Log.QSOCount; ++n) calls.push_back(LoggedRecord(Ctx->Log, n).QCall.Trimmed());
+    for (int n = 1; n < Ctx.Log.QSOCount; ++n) calls.push_back(LoggedRecord(Ctx.Log, n).QCall.Trimmed());
     return calls;
   }
   int BoxesTitled(const std::string& title) const {
@@ -82,9 +66,7 @@ struct Station {
 // The calls of the log file as File > Open loads it in another program.
 std::vector<std::string> CallsOnDisk(const std::string& path) {
   Station reader;
-  reader.Desk.Files.Names.push_back(path);
-  reader.Form.mnuFileOpenLog_Click();
-  EXPECT_EQ(reader.Ctx->Log.LogState, LogStateKind::Named) << path;
+  EXPECT_TRUE(reader.Open(path)) << path;
   return reader.CallsInMemory();
 }
 
@@ -121,7 +103,7 @@ TEST(FileFault, EveryWriteOfAContestFailsOnceWithEachAnswer) {
         s.Desk.Disk.TearFailedWrites = torn;
         s.Desk.Boxes.Answers = {answer};
         s.NewLog();
-        if (s.Ctx->Log.LogState == LogStateKind::None) {  // the header aborted: no log yet
+        if (s.Ctx.Log.LogState == LogStateKind::None) {  // the header aborted: no log yet
           EXPECT_EQ(k, 1);
           s.NewLog();
         }
@@ -193,7 +175,7 @@ TEST_F(DiskFault, TheKernelsDiskFullIsToldAndRetried) {
   s.Desk.Boxes.Answers = {MsgAnswer::Retry};
   s.Log("DL1ABC");
   EXPECT_EQ(told.substr(0, told.find('\n')), "Can't write " + path + ": No space left on device");
-  EXPECT_EQ(s.Ctx->Log.QSOCount, 5);
+  EXPECT_EQ(s.Ctx.Log.QSOCount, 5);
   EXPECT_EQ(ReadFile(path).substr(0, before.size()), before);
   EXPECT_EQ(CallsOnDisk(path), std::vector<std::string>(kCalls.begin(), kCalls.begin() + 4));
 }
@@ -210,14 +192,14 @@ TEST_F(DiskFault, AGoneFolderIsToldAndTheEntryWaits) {
   s.Log("DL1ABC");  // the default answer: abort
   EXPECT_EQ(s.BoxesTitled("File Error"), 1);
   EXPECT_EQ(s.FirstLineOf("File Error"), "Can't create " + path + ": Not a directory");
-  EXPECT_EQ(s.Ctx->Log.QSOCount, 4);
+  EXPECT_EQ(s.Ctx.Log.QSOCount, 4);
   EXPECT_EQ(s.Form.InData[CallBox].Text, "DL1ABC");
-  EXPECT_EQ(s.Ctx->Log.LogRecords.At(4).QCall.Trimmed(), "DL1ABC");
+  EXPECT_EQ(s.Ctx.Log.LogRecords.At(4).QCall.Trimmed(), "DL1ABC");
 
   fs::remove(s.Home.Path + "logs");
   fs::rename(s.Home.Path + "logs.moved", s.Home.Path + "logs");
   s.EnterAgain();
-  EXPECT_EQ(s.Ctx->Log.QSOCount, 5);
+  EXPECT_EQ(s.Ctx.Log.QSOCount, 5);
   EXPECT_EQ(ReadFile(path).substr(0, before.size()), before);
   EXPECT_EQ(CallsOnDisk(path), std::vector<std::string>(kCalls.begin(), kCalls.begin() + 4));
 }
@@ -234,7 +216,7 @@ TEST_F(DiskFault, AReadOnlyLogIsToldAndIgnored) {
   s.Desk.Boxes.Answers = {MsgAnswer::Ignore};
   s.Log("DL1ABC");
   EXPECT_EQ(s.FirstLineOf("File Error"), "Can't open " + path + ": Permission denied");
-  EXPECT_EQ(s.Ctx->Log.QSOCount, 4);
+  EXPECT_EQ(s.Ctx.Log.QSOCount, 4);
   EXPECT_EQ(s.Form.InData[CallBox].Text, "");
   EXPECT_EQ(ReadFile(path), before);
 
@@ -254,7 +236,7 @@ TEST_F(DiskFault, ALogFileDeletedOrCutShortIsWrittenAgainFromMemory) {
   EXPECT_EQ(LastBoxTitle(), "Log File Rewritten");
   EXPECT_EQ(LastBoxText(), "The log file " + path + " was missing or cut short. It has been written again from memory, "
                            "with 4 QSOs.");
-  EXPECT_EQ(s.Ctx->Log.QSOCount, 5);
+  EXPECT_EQ(s.Ctx.Log.QSOCount, 5);
   std::string rewritten = ReadFile(path);
   ASSERT_EQ(rewritten.size(), 5u * QsoRecordSize);
   EXPECT_EQ(rewritten.substr(0, before.size()), before);
@@ -285,11 +267,11 @@ TEST_F(DiskFault, ALogFileDeletedOrCutShortIsWrittenAgainFromMemory) {
 // told, and the old settings file and the log stay as they were.
 TEST_F(DiskFault, SettingsUnwritableAtExitAreToldAndTheOldFileKept) {
   LogThree();
-  const std::string settings = SettingsPath(*s.Ctx);
+  const std::string settings = SettingsPath(s.Ctx);
   const std::string temporary = settings + ".new";  // where the new file is written first
-  ASSERT_EQ(WriteSettings(settings, s.Ctx->Config), std::nullopt);
+  ASSERT_EQ(WriteSettings(settings, s.Ctx.Config), std::nullopt);
   const std::string old = ReadFile(settings);
-  s.Ctx->Config.RecentFile[4] = "changed";  // something to save
+  s.Ctx.Config.RecentFile[4] = "changed";  // something to save
 
   struct Fault {
     const char* name;

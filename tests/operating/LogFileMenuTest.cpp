@@ -1,16 +1,10 @@
 // The File menu on real files: a new log on disk QSO by QSO, Save As, Open
 // with replay of every shape, the conversions, Kill All and the write errors.
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
-#include <fstream>
 
-#include "core/ChCoForm.h"
 #include "core/LogFile.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
-#include "platform/Scripted.h"
+#include "operating/LoggerTest.h"
 #include "TestFiles.h"
 
 namespace tarnix {
@@ -40,60 +34,36 @@ std::string RecordOf(const std::string& call, int16_t number, int16_t band, std:
   return std::string(b.begin(), b.begin() + static_cast<std::ptrdiff_t>(length));
 }
 
-class LogFileMenuTest : public ::testing::Test {
+class LogFileMenuTest : public LoggerTest {
  protected:
-  TempFolder home;
-  std::unique_ptr<Context> ctx = MakeContext(home.Path);
-  ScriptedPlatform desk;
-  RecordingStation station;
-  LogForm form{*ctx, desk.View, station.View};
-
   void SetUp() override { desk.Time.Set({2026, 11, 22, 12, 0, 0}); }
-  void NewLog(int contest) {
-    QueueContestChoice(desk.Forms, contest);
-    form.mnuFileNewLog_Click();
-  }
-  void Log(const std::string& call, const std::string& notes = "") {
-    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form.SetFocus(ExchangeBox);
-    form.InData_Change(ExchangeBox, notes, static_cast<int>(notes.size()));
-    form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
-  }
-  void Open(const std::string& path) {
-    desk.Files.Names.push_back(path);
-    form.mnuFileOpenLog_Click();
-  }
-  std::vector<std::string> Titles() {
-    std::vector<std::string> titles;
-    for (const auto& box : desk.Boxes.Shown) titles.push_back(box.Title);
-    return titles;
-  }
+  void Log(const std::string& call, const std::string& notes = "") { run.Enter(call, notes); }
+  void Open(const std::string& path) { run.Open(path); }
 };
 
 TEST_F(LogFileMenuTest, EveryQsoIsOnDiskTheMomentItIsLogged) {
-  NewLog(Generic);
+  run.NewLog(Generic);
   std::string temp = home.Path + "!temp%!!.tnb";
   EXPECT_EQ(ReadFile(temp), HeaderOf("GEN  ", ' ', 1));
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::Unnamed);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::Unnamed);
 
   Log("K3ZZZ", "599 PA");
   std::string file = ReadFile(temp);
   ASSERT_EQ(file.size(), 120u);
   EXPECT_EQ(file.substr(26, 34), std::string(34, '\0'));  // the rest of the header's place
-  auto first = EncodeRecord(ctx->Log.LogRecords.At(1));
+  auto first = EncodeRecord(ctx.Log.LogRecords.At(1));
   EXPECT_EQ(file.substr(60), std::string(first.begin(), first.end()));
   Log("W1AW");
   EXPECT_EQ(ReadFile(temp).size(), 180u);
 
   // Save As moves the log: the temporary file goes.
   std::string saved = home.Path + "field day 2026.TNX";
-  desk.Files.Names.push_back(saved);
-  form.mnuFileSave_Click();
+  run.SaveAs(saved);
   EXPECT_FALSE(std::filesystem::exists(temp));
   EXPECT_EQ(ReadFile(saved).size(), 180u);
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::Named);
-  EXPECT_EQ(ctx->Config.RecentFile[1], saved);
-  EXPECT_EQ(ctx->Config.OpenFilePath, home.Path);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::Named);
+  EXPECT_EQ(ctx.Config.RecentFile[1], saved);
+  EXPECT_EQ(ctx.Config.OpenFilePath, home.Path);
   EXPECT_TRUE(form.mnuFileBackup.Enabled);
   std::string shown = saved.size() > 30 ? saved.substr(0, 15) + "..." + saved.substr(saved.size() - 12) : saved;
   EXPECT_EQ(form.FileIDLabel.Caption, "Log: " + shown + " - - Contest: [Generic]");
@@ -105,30 +75,27 @@ TEST_F(LogFileMenuTest, EveryQsoIsOnDiskTheMomentItIsLogged) {
   // Opening it again replays the three QSOs.
   desk.Boxes.Answers.push_back(MsgAnswer::Yes);  // "open a different one?"
   Open(saved);
-  EXPECT_EQ(ctx->Log.QSOCount, 4);
-  EXPECT_EQ(ctx->Log.BandQSOs[3], 3);
-  EXPECT_EQ(ctx->Log.LogRecords.At(3).QCall.Trimmed(), "N5DX");
+  EXPECT_EQ(ctx.Log.QSOCount, 4);
+  EXPECT_EQ(ctx.Log.BandQSOs[3], 3);
+  EXPECT_EQ(ctx.Log.LogRecords.At(3).QCall.Trimmed(), "N5DX");
   EXPECT_EQ(form.FileIDLabel.Caption, "Log: " + saved + " - - Contest: Generic Log");
 }
 
 TEST_F(LogFileMenuTest, SaveAsRefusals) {
-  NewLog(Generic);
-  desk.Files.Names.push_back(home.Path + "log.txt");
-  form.mnuFileSave_Click();
+  run.NewLog(Generic);
+  run.SaveAs(home.Path + "log.txt");
   EXPECT_EQ(desk.Boxes.Shown.back().Text, "Log file must have the extension .TNX");
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::Unnamed);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::Unnamed);
 
   std::string existing = home.Path + "old.tnx";
   WriteFile(existing, "keep me");
-  desk.Files.Names.push_back(existing);
-  form.mnuFileSave_Click();  // the question's default answer is Cancel
+  run.SaveAs(existing);  // the question's default answer is Cancel
   EXPECT_EQ(desk.Boxes.Shown.back().Text, existing + " already exists. OK to overwrite it?");
   EXPECT_EQ(ReadFile(existing), "keep me");
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::Unnamed);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::Unnamed);
 
-  desk.Files.Names.push_back(existing);
   desk.Boxes.Answers.push_back(MsgAnswer::OK);
-  form.mnuFileSave_Click();
+  run.SaveAs(existing);
   EXPECT_EQ(ReadFile(existing), HeaderOf("GEN  ", ' ', 1));
 }
 
@@ -154,16 +121,16 @@ TEST_F(LogFileMenuTest, OpensEveryShapeAndDamage) {
     WriteFile(path, row.bytes);
     desk.Boxes.Answers.push_back(MsgAnswer::Yes);
     Open(path);
-    EXPECT_EQ(ctx->Log.LogState, LogStateKind::Named);
-    EXPECT_EQ(ctx->Log.QSOCount, row.qsoCount);
-    EXPECT_EQ(ctx->Log.RecordLength, row.recordLength);
+    EXPECT_EQ(ctx.Log.LogState, LogStateKind::Named);
+    EXPECT_EQ(ctx.Log.QSOCount, row.qsoCount);
+    EXPECT_EQ(ctx.Log.RecordLength, row.recordLength);
     if (row.qsoCount > 1) {
-      EXPECT_EQ(LoggedRecord(ctx->Log, 1).QCall.Trimmed(), "K3ZZZ");
+      EXPECT_EQ(LoggedRecord(ctx.Log, 1).QCall.Trimmed(), "K3ZZZ");
     }
     EXPECT_EQ(ReadFile(path), row.bytes);  // opening writes nothing
   }
-  EXPECT_EQ(ctx->Log.LogRecordsMid.At(1).QRcvText.Trimmed(), "BOB");
-  EXPECT_EQ(ctx->Log.LogRecordsMid.At(1).QRadio.Str(), "  ");  // beyond the 36 bytes: blanks
+  EXPECT_EQ(ctx.Log.LogRecordsMid.At(1).QRcvText.Trimmed(), "BOB");
+  EXPECT_EQ(ctx.Log.LogRecordsMid.At(1).QRadio.Str(), "  ");  // beyond the 36 bytes: blanks
 }
 
 TEST_F(LogFileMenuTest, ForeignAndIncompatibleFilesOpenNoLog) {
@@ -171,7 +138,7 @@ TEST_F(LogFileMenuTest, ForeignAndIncompatibleFilesOpenNoLog) {
   WriteFile(path, HeaderOf("ZZ CW", '2', 1) + std::string(200, 'x'));
   Open(path);
   EXPECT_EQ(desk.Boxes.Shown.back().Title, "Unknown Log Format");
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::None);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::None);
   EXPECT_FALSE(form.InData[CallBox].Enabled);
   EXPECT_FALSE(form.EndRequested);
 
@@ -181,13 +148,13 @@ TEST_F(LogFileMenuTest, ForeignAndIncompatibleFilesOpenNoLog) {
   Open(path);
   EXPECT_EQ(desk.Boxes.Shown.back().Title, "Incompatible file format error");
   EXPECT_TRUE(form.EndRequested);
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::None);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::None);
   EXPECT_EQ(ReadFile(path), "START-OF-LOG: 3.0\r\nCONTEST: CQ-WW-CW\r\n");
 
   std::filesystem::remove(path);
   Open(path);  // gone: the error routine's default answer abandons the load
   EXPECT_EQ(desk.Boxes.Shown.back().Title, "File Error");
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::None);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::None);
 }
 
 TEST_F(LogFileMenuTest, OldLogsAreConvertedOnOpen) {
@@ -202,15 +169,15 @@ TEST_F(LogFileMenuTest, OldLogsAreConvertedOnOpen) {
                 home.Path + "wpx.TNb");
   EXPECT_EQ(ReadFile(home.Path + "wpx.TNb"), oldWpx);
   EXPECT_EQ(ReadFile(wpx), HeaderOf("WPXCW", '2', 0) + RecordOf("K3ZZZ", 1, 3, 26, "K3"));
-  EXPECT_TRUE(ctx->Contest.StationInUSA);
-  EXPECT_EQ(ctx->Log.QSOCount, 2);
+  EXPECT_TRUE(ctx.Contest.StationInUSA);
+  EXPECT_EQ(ctx.Log.QSOCount, 2);
 
   std::string ss = home.Path + "ss.TNX";
   WriteFile(ss, HeaderOf("SS CW", ' ', 0) + RecordOf("K3ZZZ", 1, 3, 26, "A5812"));
   desk.Boxes.Answers = {MsgAnswer::Yes, MsgAnswer::No};  // open another; pre-1996
   Open(ss);
   EXPECT_EQ(desk.Boxes.Shown.back().Title, "Pre-1997 SS Log.  How Many Sections?");
-  EXPECT_EQ(ctx->Contest.SSYear, 95);
+  EXPECT_EQ(ctx.Contest.SSYear, 95);
   EXPECT_EQ(ReadFile(ss), HeaderOf("SS9CW", ' ', 0) + RecordOf("K3ZZZ", 1, 3, 26, "A5813"));
 
   std::string cqp = home.Path + "cqp.TNX";
@@ -218,12 +185,12 @@ TEST_F(LogFileMenuTest, OldLogsAreConvertedOnOpen) {
   desk.Boxes.Answers = {MsgAnswer::Yes, MsgAnswer::No};
   Open(cqp);
   EXPECT_EQ(desk.Boxes.Shown.back().Title, "Need Station Location Info");
-  EXPECT_FALSE(ctx->Contest.InState);
+  EXPECT_FALSE(ctx.Contest.InState);
   EXPECT_EQ(ReadFile(cqp), HeaderOf("CQP  ", ' ', 1));  // the header is not changed
 }
 
 TEST_F(LogFileMenuTest, KillAllKeepsACopyAndEmptiesTheLog) {
-  NewLog(Generic);
+  run.NewLog(Generic);
   Log("K3ZZZ");
   Log("W1AW");
   desk.Boxes.Answers.push_back(MsgAnswer::Yes);
@@ -233,29 +200,29 @@ TEST_F(LogFileMenuTest, KillAllKeepsACopyAndEmptiesTheLog) {
   std::string blank26(blank.begin(), blank.begin() + 26);
   EXPECT_EQ(ReadFile(home.Path + "KilledFile.tnx"), HeaderOf("GEN  ", ' ', 1) + blank26 + blank26);
   EXPECT_EQ(ReadFile(home.Path + "!temp%!!.tnb"), HeaderOf("GEN  ", ' ', 1));
-  EXPECT_EQ(ctx->Log.QSOCount, 1);
-  EXPECT_EQ(ctx->Log.BandQSOs[3], 0);
+  EXPECT_EQ(ctx.Log.QSOCount, 1);
+  EXPECT_EQ(ctx.Log.BandQSOs[3], 0);
 }
 
 TEST_F(LogFileMenuTest, WriteErrorsAskAndKeepTheQso) {
-  NewLog(Generic);
+  run.NewLog(Generic);
   int before = desk.Disk.Writes;
   desk.Disk.FailOnlyWrite = before + 1;
   desk.Boxes.Answers.push_back(MsgAnswer::Retry);
   Log("K3ZZZ");
   EXPECT_EQ(desk.Boxes.Shown.back().Title, "File Error");
-  EXPECT_EQ(ctx->Log.QSOCount, 2);  // the retry wrote it
+  EXPECT_EQ(ctx.Log.QSOCount, 2);  // the retry wrote it
   EXPECT_EQ(ReadFile(home.Path + "!temp%!!.tnb").size(), 120u);
 
   desk.Disk.FailFromWrite = desk.Disk.Writes + 1;  // the disk is full from now on
   Log("W1AW");                                     // default answer: Abort
-  EXPECT_EQ(ctx->Log.QSOCount, 2);
+  EXPECT_EQ(ctx.Log.QSOCount, 2);
   EXPECT_EQ(form.InData[CallBox].Text, "W1AW");  // still in the box to try again
-  EXPECT_EQ(ctx->Log.LogRecords.At(2).QCall.Trimmed(), "W1AW");  // and in memory
+  EXPECT_EQ(ctx.Log.LogRecords.At(2).QCall.Trimmed(), "W1AW");  // and in memory
 
   desk.Boxes.Answers.push_back(MsgAnswer::Ignore);
   form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
-  EXPECT_EQ(ctx->Log.QSOCount, 2);  // not on disk, so not counted
+  EXPECT_EQ(ctx.Log.QSOCount, 2);  // not on disk, so not counted
   EXPECT_EQ(form.InData[CallBox].Text, "");
   EXPECT_EQ(ReadFile(home.Path + "!temp%!!.tnb").size(), 120u);
 }
@@ -268,35 +235,29 @@ TEST_F(LogFileMenuTest, RecentFilesNewestFirstAndCancelKeepsTheLog) {
     desk.Boxes.Answers.push_back(MsgAnswer::Yes);
     Open(names.back());
   }
-  EXPECT_EQ(ctx->Config.RecentFile[1], names[4]);
-  EXPECT_EQ(ctx->Config.RecentFile[4], names[1]);
+  EXPECT_EQ(ctx.Config.RecentFile[1], names[4]);
+  EXPECT_EQ(ctx.Config.RecentFile[4], names[1]);
   EXPECT_TRUE(form.mnuFileArray[4].Visible);
   EXPECT_EQ(form.mnuFileArray[2].Caption, names[3]);
 
   desk.Boxes.Answers.push_back(MsgAnswer::Yes);
   form.mnuFileArray_Click(3);
   EXPECT_EQ(form.Document.FileName, names[2]);
-  EXPECT_EQ(ctx->Config.RecentFile[1], names[2]);
+  EXPECT_EQ(ctx.Config.RecentFile[1], names[2]);
 
   Log("K3ZZZ");
   desk.Boxes.Answers.push_back(MsgAnswer::Yes);
   form.mnuFileOpenLog_Click();  // the dialog is cancelled
-  EXPECT_EQ(ctx->Log.QSOCount, 2);
+  EXPECT_EQ(ctx.Log.QSOCount, 2);
   EXPECT_EQ(form.Document.FileName, names[2]);
 
   // Exit from an unnamed log with No removes the temporary file.
   desk.Boxes.Answers = {MsgAnswer::Yes};  // start a new one
-  NewLog(Generic);
+  run.NewLog(Generic);
   desk.Boxes.Answers = {MsgAnswer::No};
   EXPECT_TRUE(form.mnuFileExit_Click());
   EXPECT_FALSE(std::filesystem::exists(home.Path + "!temp%!!.tnb"));
 }
-
-}  // namespace
-}  // namespace tarnix
-
-namespace tarnix {
-namespace {
 
 TEST_F(LogFileMenuTest, UserProfilesAreKeptInTheSettingsFile) {
   desk.Forms.Actions["UserInfo"].push_back([](FormModel& f) {
@@ -305,7 +266,7 @@ TEST_F(LogFileMenuTest, UserProfilesAreKeptInTheSettingsFile) {
     profiles.CmdOK_Click();
   });
   form.mnuFileUserInfo_Click();
-  EXPECT_EQ(ctx->Config.UserProfile[1].Callsign, "k3zzz");
+  EXPECT_EQ(ctx.Config.UserProfile[1].Callsign, "k3zzz");
   std::string written = ReadFile(home.Path + "tarnix125.ini");
   EXPECT_NE(written.find("\r\nUserProfile.Callsign=k3zzz\r\n"), std::string::npos);
 }

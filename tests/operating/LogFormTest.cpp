@@ -1,37 +1,12 @@
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
+// The form without and with a log, and the Edit menu's commands on the log.
 
 #include "core/BandMode.h"
-#include "core/ChCoForm.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
-#include "platform/Scripted.h"
+#include "operating/LoggerTest.h"
 
 namespace tarnix {
 namespace {
 
-class LogFormTest : public ::testing::Test {
- protected:
-  TempFolder home;
-  std::unique_ptr<Context> ctx = MakeContext(home.Path);
-  ScriptedPlatform desk;
-  RecordingStation station;
-  LogForm form{*ctx, desk.View, station.View};
-
-  // File > New Log, choosing the contest (and Phone) in the contest form.
-  void NewLog(int contest, bool phone = false) {
-    QueueContestChoice(desk.Forms, contest, phone);
-    form.mnuFileNewLog_Click();
-  }
-  void Log(const std::string& call) {
-    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
-  }
-  std::string LastBox() { return desk.Boxes.Shown.back().Text + "|" + desk.Boxes.Shown.back().Title; }
-  std::string Call(int n) { return ctx->Log.LogRecords.At(n).QCall.Trimmed(); }
-};
+using LogFormTest = LoggerTest;
 
 TEST_F(LogFormTest, WithoutALogTheEntryIsClosed) {
   EXPECT_FALSE(form.InData[CallBox].Enabled || form.InData[ExchangeBox].Enabled || form.AddButton.Enabled);
@@ -40,12 +15,12 @@ TEST_F(LogFormTest, WithoutALogTheEntryIsClosed) {
   EXPECT_EQ(form.FocusedBox, NoBox);
   form.InData_Change(CallBox, "K3ZZZ", 5);
   EXPECT_FALSE(form.InData_KeyDown(CallBox, KeyEnter, 0));
-  EXPECT_EQ(ctx->Log.QSOCount, 1);
+  EXPECT_EQ(ctx.Log.QSOCount, 1);
 
   // Cancelling the contest form leaves it closed.
   desk.Forms.Actions["ChCoForm"].push_back([](FormModel& f) { static_cast<ChCoForm&>(f).CmdCancel_Click(); });
   form.mnuFileNewLog_Click();
-  EXPECT_EQ(ctx->Contest.ContestIndex, 0);
+  EXPECT_EQ(ctx.Contest.ContestIndex, 0);
   EXPECT_FALSE(form.InData[CallBox].Enabled);
   EXPECT_EQ(form.BackColor, 14737632);
 }
@@ -57,77 +32,83 @@ TEST_F(LogFormTest, NewLogOpensTheEntry) {
                       {Naqp, false, 3, "QSO Nr  1    (20m CW)|Score: 0|Mults:  0", " CW"}};
   for (const Row& r : rows) {
     SCOPED_TRACE(r.contest);
-    NewLog(r.contest, r.phone);
+    run.NewLog(r.contest, r.phone);
     EXPECT_TRUE(form.InData[CallBox].Enabled && form.InData[ExchangeBox].Enabled && form.AddButton.Enabled);
     EXPECT_TRUE(form.mnuEdit.Enabled);
     EXPECT_EQ(form.BackColor, 16777215);
     EXPECT_EQ(form.FocusedBox, CallBox);
-    EXPECT_EQ(ctx->Contest.BandIndex, r.band);
+    EXPECT_EQ(ctx.Contest.BandIndex, r.band);
     EXPECT_EQ(form.QSONrLabel.Caption + "|" + form.ScoreLabel.Caption + "|" + form.MultsLabel.Caption, r.labels);
     EXPECT_EQ(form.FileIDLabel.Caption,
               "Log: [Unnamed] - - Contest: " + std::string(ContestTable(r.contest).TitleName) + r.mode);
   }
-  EXPECT_TRUE(ctx->Contest.ModeEnabled[2]);
+  EXPECT_TRUE(ctx.Contest.ModeEnabled[2]);
 }
 
-TEST_F(LogFormTest, CommandsOnAnEmptyLogRefuse) {
-  NewLog(Generic);
+TEST_F(LogFormTest, EditCommandsOnAnEmptyLogRefuse) {
+  run.NewLog(Generic);
   form.mnuEditKillLastEntry_Click();
   EXPECT_EQ(LastBox(), "No Entries in Log, so can't kill last entry.|No Log Entries");
   form.mnuEditKillALLEntries_Click();
   EXPECT_EQ(LastBox(), "No Entries in Log, so can't kill allentries.|No Log Entries");
   form.mnuEditLastEntry_Click();
   EXPECT_EQ(LastBox(), "No Entries in Log, so can't edit last entry.|No Log Entries");
-  EXPECT_EQ(ctx->Log.QSOCount, 1);
+  EXPECT_EQ(ctx.Log.QSOCount, 1);
 }
 
 TEST_F(LogFormTest, KillLastLowersTheCountOnlyAndTheNextQsoOverwrites) {
-  NewLog(Generic);
-  for (const char* call : {"K1AA", "K2BB", "K3CC"}) Log(call);
-  ASSERT_EQ(ctx->Log.QSOCount, 4);
+  run.NewLog(Generic);
+  for (const char* call : {"K1AA", "K2BB", "K3CC"}) run.Enter(call, "");
+  ASSERT_EQ(ctx.Log.QSOCount, 4);
   form.mnuEditKillLastEntry_Click();  // the default answer is No
   EXPECT_EQ(LastBox(), "Kill last log entry?|Confirm kill");
   EXPECT_EQ(desk.Boxes.Shown.back().Buttons, MsgButtons::YesNo);
-  EXPECT_EQ(ctx->Log.QSOCount, 4);
+  EXPECT_EQ(ctx.Log.QSOCount, 4);
 
   desk.Boxes.Answers = {MsgAnswer::Yes, MsgAnswer::Yes};
   form.SetFocus(ExchangeBox);
   form.mnuEditKillLastEntry_Click();
   form.mnuEditKillLastEntry_Click();
-  EXPECT_EQ(ctx->Log.QSOCount, 2);
+  EXPECT_EQ(ctx.Log.QSOCount, 2);
   EXPECT_EQ(form.FocusedBox, CallBox);
   EXPECT_EQ(form.QSONrLabel.Caption, "QSO Nr  2    (20m CW)");
   EXPECT_EQ(Call(3), "K3CC");
 
-  Log("K9ZZ");
-  EXPECT_EQ(ctx->Log.QSOCount, 3);
+  run.Enter("K9ZZ", "");
+  EXPECT_EQ(ctx.Log.QSOCount, 3);
   EXPECT_EQ(Call(1) + " " + Call(2) + " " + Call(3), "K1AA K9ZZ K3CC");
-  EXPECT_EQ(ctx->Log.LogRecords.At(2).QNumber, 2);
+  EXPECT_EQ(Qso(2).QNumber, 2);
+
+  // A load that finds the third record (the file keeps it) brings it back.
+  ResetLog(ctx.Log);
+  form.ReplayLog(4);
+  EXPECT_EQ(ctx.Log.BandQSOs[3], 3);
+  EXPECT_EQ(ctx.Log.CallText.At(2), "K3CC");
 }
 
 TEST_F(LogFormTest, KillAllAsksAndEmptiesTheLog) {
-  NewLog(Generic);
-  Log("K1AA");
-  Log("K2BB");
+  run.NewLog(Generic);
+  run.Enter("K1AA", "");
+  run.Enter("K2BB", "");
   form.mnuEditKillALLEntries_Click();  // the default answer is No
   EXPECT_EQ(desk.Boxes.Shown.back().Title, "Confirm kill");
-  EXPECT_EQ(ctx->Log.QSOCount, 3);
+  EXPECT_EQ(ctx.Log.QSOCount, 3);
   desk.Boxes.Answers = {MsgAnswer::Yes};
   form.mnuEditKillALLEntries_Click();
-  EXPECT_EQ(ctx->Log.QSOCount, 1);
-  EXPECT_EQ(ctx->Log.CallIndexCount, 0);
+  EXPECT_EQ(ctx.Log.QSOCount, 1);
+  EXPECT_EQ(ctx.Log.CallIndexCount, 0);
   EXPECT_EQ(form.QSONrLabel.Caption, "QSO Nr  1    (20m CW)");
 }
 
 TEST_F(LogFormTest, SelectBandsRunsTheBandForm) {
-  NewLog(ArrlDx);
+  run.NewLog(ArrlDx);
   desk.Forms.Actions["BandMode"].push_back([](FormModel& f) {
     static_cast<BandMode&>(f).BandBox_Click(1);
     static_cast<BandMode&>(f).Command1_Click();
   });
   form.mnuEditSelectBands_Click();
   EXPECT_EQ(desk.Forms.Shown.back(), "BandMode");
-  EXPECT_TRUE(!ctx->Contest.BandEnabled[1] && ctx->Contest.BandEnabled[2]);
+  EXPECT_TRUE(!ctx.Contest.BandEnabled[1] && ctx.Contest.BandEnabled[2]);
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 // radios' defaults, the clock labels, the welcome and About boxes, recovery
 // of a log left by a killed program, and the manual backup.
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -11,12 +9,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "core/ChCoForm.h"
 #include "operating/AboutTarnix.h"
-#include "operating/LogForm.h"
-#include "operating/RecordingStation.h"
+#include "operating/LoggerTest.h"
 #include "operating/Startup.h"
-#include "platform/Scripted.h"
 #include "TestFiles.h"
 
 namespace tarnix {
@@ -73,19 +68,7 @@ TEST(Startup, RadiosTakeTheirModelsDefaults) {
   EXPECT_EQ(s.Radio[2].Parity, 'E');
 }
 
-class StartAndStopTest : public ::testing::Test {
- protected:
-  TempFolder home;
-  std::unique_ptr<Context> ctx = MakeContext(home.Path);
-  ScriptedPlatform desk;
-  RecordingStation station;
-  std::unique_ptr<LogForm> form = std::make_unique<LogForm>(*ctx, desk.View, station.View);
-
-  void Log(LogForm& f, const std::string& call) {
-    f.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    f.InData_KeyDown(CallBox, KeyEnter, 0);
-  }
-};
+using StartAndStopTest = LoggerTest;
 
 TEST_F(StartAndStopTest, ClockLabelsInBothSpellings) {
   struct Row { const char* gmtFlag; const char* correction; int hour, minute; const char* gmt; const char* local; };
@@ -96,16 +79,16 @@ TEST_F(StartAndStopTest, ClockLabelsInBothSpellings) {
       {"true", "-3", 1, 7, "GMT: 2207", "Local Time: 0107"},  // only the exact word counts
   };
   for (const Row& r : rows) {
-    ctx->Config.IsGMTFlag = r.gmtFlag;
-    ctx->Config.TimeCorrection = r.correction;
+    ctx.Config.IsGMTFlag = r.gmtFlag;
+    ctx.Config.TimeCorrection = r.correction;
     desk.Time.Set({2026, 11, 22, r.hour, r.minute, 0});
     desk.Time.Advance(1000);
-    EXPECT_EQ(form->TimeGMTLabel.Caption, r.gmt) << r.gmtFlag << r.correction;
-    EXPECT_EQ(form->TimeLocalLabel.Caption, r.local) << r.gmtFlag << r.correction;
+    EXPECT_EQ(form.TimeGMTLabel.Caption, r.gmt) << r.gmtFlag << r.correction;
+    EXPECT_EQ(form.TimeLocalLabel.Caption, r.local) << r.gmtFlag << r.correction;
   }
-  EXPECT_EQ(form->ClockTicks, 4);
+  EXPECT_EQ(form.ClockTicks, 4);
   desk.Time.Advance(7000);
-  EXPECT_EQ(form->ClockTicks, 1);  // the eleventh tick starts the count again
+  EXPECT_EQ(form.ClockTicks, 1);  // the eleventh tick starts the count again
 }
 
 TEST_F(StartAndStopTest, WelcomeClosesItselfAndAboutWaitsForOk) {
@@ -129,7 +112,7 @@ TEST_F(StartAndStopTest, WelcomeClosesItselfAndAboutWaitsForOk) {
     about.Command1_Click();
     EXPECT_FALSE(about.Visible);
   });
-  form->mnuHelpAbout_Click();
+  form.mnuHelpAbout_Click();
   EXPECT_EQ(desk.Forms.Shown.back(), "AboutTarnix");
 }
 
@@ -139,17 +122,10 @@ void CrashWithAnUnnamedLog(const std::string& appPath) {
   pid_t child = fork();
   ASSERT_GE(child, 0);
   if (child == 0) {
-    ScriptedPlatform desk;
-    desk.Time.Set({2026, 11, 22, 12, 0, 0});
-    auto ctx = MakeContext(appPath);
-    RecordingStation station;
-    LogForm form(*ctx, desk.View, station.View);
-    QueueContestChoice(desk.Forms, Generic);
-    form.mnuFileNewLog_Click();
-    for (const char* call : {"K3ZZZ", "W1AW", "N5DX"}) {
-      form.InData_Change(CallBox, call, 5);
-      form.InData_KeyDown(CallBox, KeyEnter, 0);
-    }
+    ScriptedLogger run(appPath, ScriptedLogger::Start::Fresh);
+    run.Desk.Time.Set({2026, 11, 22, 12, 0, 0});
+    run.NewLog(Generic);
+    for (const char* call : {"K3ZZZ", "W1AW", "N5DX"}) run.Enter(call, "");
     raise(SIGKILL);
   }
   int status = 0;
@@ -159,28 +135,28 @@ void CrashWithAnUnnamedLog(const std::string& appPath) {
 
 TEST_F(StartAndStopTest, RecoveryYesCarriesTheLogOnUnnamed) {
   CrashWithAnUnnamedLog(home.Path);
-  form->CheckRecovery();
+  form.CheckRecovery();
   ASSERT_FALSE(desk.Boxes.Shown.empty());
   EXPECT_EQ(desk.Boxes.Shown[0].Text,
             "TARNIX has detected a backup file indicating the program was terminated abnormally.  "
             "Do you want to open it as a log file?");
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::Unnamed);
-  EXPECT_EQ(ctx->Log.QSOCount, 4);
-  EXPECT_EQ(ctx->Log.LogRecords.At(3).QCall.Trimmed(), "N5DX");
-  EXPECT_EQ(form->FileIDLabel.Caption, "Log: [Unnamed] - - Contest: Generic Log");
-  Log(*form, "G4BUO");  // the log carries on in the temporary file
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::Unnamed);
+  EXPECT_EQ(ctx.Log.QSOCount, 4);
+  EXPECT_EQ(ctx.Log.LogRecords.At(3).QCall.Trimmed(), "N5DX");
+  EXPECT_EQ(form.FileIDLabel.Caption, "Log: [Unnamed] - - Contest: Generic Log");
+  run.Enter("G4BUO", "");  // the log carries on in the temporary file
   EXPECT_EQ(ReadFile(home.Path + "!temp%!!.tnb").size(), 5u * 60);
 }
 
 TEST_F(StartAndStopTest, RecoveryNoKeepsTheThreeLastAbandonedLogs) {
   auto unsaved = [this](int n) { return home.Path + "Unsaved TNX Log " + std::to_string(n) + ".tnx"; };
-  form->CheckRecovery();  // no temporary file: nothing is asked
+  form.CheckRecovery();  // no temporary file: nothing is asked
   EXPECT_TRUE(desk.Boxes.Shown.empty());
   for (int crash = 1; crash <= 4; ++crash) {
     CrashWithAnUnnamedLog(home.Path);
     std::ofstream(home.Path + "!temp%!!.tnb", std::ios::app) << "crash " << crash;  // tell them apart
     desk.Boxes.Answers.push_back(MsgAnswer::No);
-    form->CheckRecovery();
+    form.CheckRecovery();
     EXPECT_FALSE(fs::exists(home.Path + "!temp%!!.tnb"));
   }
   EXPECT_FALSE(fs::exists(unsaved(4)));
@@ -188,43 +164,39 @@ TEST_F(StartAndStopTest, RecoveryNoKeepsTheThreeLastAbandonedLogs) {
     std::string bytes = ReadFile(unsaved(n));
     EXPECT_EQ(bytes.substr(bytes.size() - 7), "crash " + std::to_string(5 - n)) << n;
   }
-  EXPECT_EQ(ctx->Log.LogState, LogStateKind::None);
+  EXPECT_EQ(ctx.Log.LogState, LogStateKind::None);
 }
 
 TEST_F(StartAndStopTest, BackupCopiesTheNamedLogFromMemory) {
   desk.Time.Set({2026, 11, 22, 12, 0, 0});
-  QueueContestChoice(desk.Forms, Generic);
-  form->mnuFileNewLog_Click();
-  Log(*form, "K3ZZZ");
+  run.NewLog(Generic);
+  run.Enter("K3ZZZ", "");
   TempFolder backup;
-  ctx->Config.BackUpDrive = backup.Path;
-  form->mnuFileBackup_Click();  // an unnamed log has no backup
+  ctx.Config.BackUpDrive = backup.Path;
+  form.mnuFileBackup_Click();  // an unnamed log has no backup
   EXPECT_TRUE(fs::is_empty(backup.Path));
 
-  desk.Files.Names.push_back(home.Path + "cq.TNX");
-  form->mnuFileSave_Click();
-  form->mnuFileBackup_Click();
+  run.SaveAs(home.Path + "cq.TNX");
+  form.mnuFileBackup_Click();
   EXPECT_EQ(ReadFile(backup.Path + "cq.TNX"), ReadFile(home.Path + "cq.TNX"));
-  Log(*form, "W1AW");
-  form->mnuFileBackup_Click();  // a second backup replaces the first
+  run.Enter("W1AW", "");
+  form.mnuFileBackup_Click();  // a second backup replaces the first
   EXPECT_EQ(ReadFile(backup.Path + "cq.TNX"), ReadFile(home.Path + "cq.TNX"));
   EXPECT_EQ(ReadFile(backup.Path + "cq.TNX").size(), 3u * 60);
 
-  ctx->Config.BackUpDrive = "[none]";
+  ctx.Config.BackUpDrive = "[none]";
   fs::remove(backup.Path + "cq.TNX");
-  form->mnuFileBackup_Click();
+  form.mnuFileBackup_Click();
   EXPECT_TRUE(fs::is_empty(backup.Path));
 }
 
 TEST_F(StartAndStopTest, ExitFromANamedLogAsksOnlyWhetherToExit) {
-  QueueContestChoice(desk.Forms, Generic);
-  form->mnuFileNewLog_Click();
-  desk.Files.Names.push_back(home.Path + "x.TNX");
-  form->mnuFileSave_Click();
+  run.NewLog(Generic);
+  run.SaveAs(home.Path + "x.TNX");
   desk.Boxes.Shown.clear();
   desk.Boxes.Answers.push_back(MsgAnswer::No);
-  EXPECT_FALSE(form->mnuFileExit_Click());
-  EXPECT_TRUE(form->mnuFileExit_Click());
+  EXPECT_FALSE(form.mnuFileExit_Click());
+  EXPECT_TRUE(form.mnuFileExit_Click());
   ASSERT_EQ(desk.Boxes.Shown.size(), 2u);
   EXPECT_EQ(desk.Boxes.Shown[1].Text, "Exit TARNIX?");
   EXPECT_EQ(desk.Boxes.Shown[1].Title, "Exit TARNIX?");

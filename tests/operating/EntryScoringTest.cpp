@@ -6,64 +6,45 @@
 // Expected values are worked out from the contest rules: points by band and
 // mode, and multiplier rows as the data file numbers them.
 
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <sstream>
-#include <string>
-#include <vector>
 
-#include "core/ChCoForm.h"
-#include "operating/LogForm.h"
-#include "operating/Startup.h"
-#include "platform/Scripted.h"
-#include "operating/StartedFormTest.h"
+#include "operating/LoggerTest.h"
 
 namespace tarnix {
 namespace {
 
 // A QSO on BandIndex band, and its record's "QPoints|QMult".
-struct Qso {
+struct Entry {
   int band;
   const char* call;
   const char* exchange;
   const char* scored;
 };
 
-class ScoringEntryTest : public StartedFormTest {
+class EntryScoringTest : public StartedTest {
  protected:
   int saved = 0;
 
-  void SetUp() override {
-    ASSERT_TRUE(started);
-    desk.Time.Set({2026, 11, 28, 12, 0, 0});
-  }
   void NewLog(int contest, int qth = -1, const char* continent = "", int location = -1) {
-    if (ctx->Log.LogState == LogStateKind::Named) desk.Boxes.Answers.push_back(MsgAnswer::Yes);
-    QueueContestChoice(desk.Forms, ContestChoice{contest, -1, location, qth, continent});
-    form.mnuFileNewLog_Click();
+    StartedTest::NewLog(ContestChoice{contest, -1, location, qth, continent});
   }
   void Type(int band, const std::string& call) {
-    ctx->Contest.BandIndex = static_cast<int16_t>(band);
-    form.SetFocus(CallBox);
-    form.InData_Change(CallBox, call, static_cast<int>(call.size()));
-    form.SetFocus(ExchangeBox);
+    ctx.Contest.BandIndex = static_cast<int16_t>(band);
+    run.CheckCall(call);
   }
-  void Log(const std::vector<Qso>& qsos) {
-    for (const Qso& q : qsos) {
+  void Log(const std::vector<Entry>& qsos) {
+    for (const Entry& q : qsos) {
       SCOPED_TRACE(std::string(q.call) + " " + q.exchange);
-      const int n = ctx->Log.QSOCount;
-      Type(q.band, q.call);
-      form.InData_Change(ExchangeBox, q.exchange, static_cast<int>(std::string(q.exchange).size()));
-      form.InData_KeyDown(ExchangeBox, KeyEnter, 0);
-      ASSERT_EQ(ctx->Log.QSOCount, n + 1);
-      const QsoRecord& r = ctx->Log.LogRecords.At(n);
-      EXPECT_EQ(r.QPoints.Str() + "|" + r.QMult.Trimmed(), q.scored);
+      const int n = ctx.Log.QSOCount;
+      ctx.Contest.BandIndex = static_cast<int16_t>(q.band);
+      run.Enter(q.call, q.exchange);
+      ASSERT_EQ(ctx.Log.QSOCount, n + 1);
+      EXPECT_EQ(Qso(n).QPoints.Str() + "|" + Qso(n).QMult.Trimmed(), q.scored);
     }
   }
   // Points, multipliers, score, then band:QSOs/points/multipliers.
   std::string Totals() {
-    const LogStore& log = ctx->Log;
+    const LogStore& log = ctx.Log;
     std::ostringstream o;
     o << log.TotalQSOPoints << " " << log.TotalMults << " " << log.ClaimedScore;
     for (std::size_t b = 1; b <= BandIndexCount; ++b)
@@ -72,7 +53,7 @@ class ScoringEntryTest : public StartedFormTest {
   }
   // Every counter the rules keep, for the comparison of logging and replay.
   std::string Snapshot() {
-    const ContestCounters& k = ctx->Counters;
+    const ContestCounters& k = ctx.Counters;
     std::ostringstream o;
     o << Totals() << " ten " << k.TenCWMults << "/" << k.TenSSBMults << " modes " << k.CWQSOs << "/" << k.PhoneQSOs
       << " same " << k.SameContinentQSOs << " lists";
@@ -95,15 +76,13 @@ class ScoringEntryTest : public StartedFormTest {
   // logging left, tables and labels included.
   void ExpectReplayEqual() {
     const std::string before = Snapshot(), score = form.ScoreLabel.Caption + form.MultsLabel.Caption;
-    const MultiplierTables tables = ctx->Tables;
+    const MultiplierTables tables = ctx.Tables;
     const std::string path = home.Path + "log" + std::to_string(++saved) + ".TNX";
-    desk.Files.Names.push_back(path);
-    form.mnuFileSave_Click();
+    run.SaveAs(path);
     desk.Boxes.Answers.push_back(MsgAnswer::Yes);  // open a different one
-    desk.Files.Names.push_back(path);
-    form.mnuFileOpenLog_Click();
+    EXPECT_TRUE(run.Open(path));
     EXPECT_EQ(Snapshot(), before);
-    EXPECT_TRUE(ctx->Tables == tables);
+    EXPECT_TRUE(ctx.Tables == tables);
     EXPECT_EQ(form.ScoreLabel.Caption + form.MultsLabel.Caption, score);
   }
   // NeedPfxLabel and LblWpxCountry once the call box is left.
@@ -118,34 +97,34 @@ class ScoringEntryTest : public StartedFormTest {
   // LabelNeededOn after the exchange is typed key by key.
   std::string NeededOn(int band, const std::string& call, const std::string& exchange) {
     Type(band, call);
-    for (char ch : exchange) form.InData_KeyPress(ExchangeBox, ch);
+    run.Type(exchange);
     std::string s = form.LabelNeededOn.Visible ? form.LabelNeededOn.Caption : "hidden";
     form.CancelButton_Click();
     return s;
   }
 };
 
-TEST_F(ScoringEntryTest, CqwwFromTheUsaByPrefixClassCountryAndZonePerBand) {
+TEST_F(EntryScoringTest, CqwwFromTheUsaByPrefixClassCountryAndZonePerBand) {
   NewLog(Cqww, 0);
   Log({{3, "DL1ABC", "14", "3|DL"}, {3, "DL2XYZ", "14", "3|DL"}, {3, "JA1XYZ", "25", "3|JA"},
        {3, "VE3EJ", "4", "2|VE"},   {3, "K3ZZZ", "5", "0|K"},     {3, "XE1ABC", "6", "2|XE"},
        {4, "DL1ABC", "14", "3|DL"}, {3, "DL1ABC", "14", "0|DL"},  {3, "TA1ABC", "20", "3|TA1"},
        {3, "KH6ABC", "31", "3|KH6"}});
   EXPECT_EQ(Totals(), "22 16 352 3:9/19/14 4:1/3/2");
-  EXPECT_EQ(ctx->Counters.BandCountries[3] * 100 + ctx->Counters.BandZones[3], 707);
+  EXPECT_EQ(ctx.Counters.BandCountries[3] * 100 + ctx.Counters.BandZones[3], 707);
   EXPECT_EQ(form.ScoreLabel.Caption + "|" + form.MultsLabel.Caption, "Score: 352|Mults:  16");
   EXPECT_EQ(Labels(3, "DL5ZZ"), "Country Ck\n     DL\n Worked|blue");
   EXPECT_EQ(Labels(2, "DL5ZZ"), "Country Ck\n     DL\n NEEDED|red");
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, WpxByContinentWithTheModEightBandsAndFromCanadaByPrefixClass) {
+TEST_F(EntryScoringTest, WpxByContinentWithTheModEightBandsAndFromCanadaByPrefixClass) {
   NewLog(Wpx, 2, "NA");
   Log({{3, "DL1ABC", "1", "3|DL1"}, {3, "DL1XYZ", "2", "3|DL1"}, {4, "DL1ABC", "3", "6|DL1"},
        {4, "K3ZZZ", "4", "4|K3"},    {8, "VE3EJ", "5", "2|VE3"},   {3, "JA1XYZ", "6", "3|JA1"},
        {3, "JA1XYZ", "7", "0|JA1"},  {5, "W6XYZ/3", "8", "4|W3"}});
   EXPECT_EQ(Totals(), "25 5 125 3:4/9/2 4:2/10/1 5:1/4/1 8:1/2/1");
-  EXPECT_EQ(ctx->Counters.SameContinentQSOs, 3);
+  EXPECT_EQ(ctx.Counters.SameContinentQSOs, 3);
   EXPECT_EQ(Labels(3, "JA1ZZ"), "Prefix Ck\n    JA1\n Worked|blue|Japan");
   EXPECT_EQ(Labels(3, "OH2BH"), "Prefix Ck\n    OH2\n NEEDED|red|Finland");
   ExpectReplayEqual();
@@ -153,11 +132,11 @@ TEST_F(ScoringEntryTest, WpxByContinentWithTheModEightBandsAndFromCanadaByPrefix
   NewLog(Wpx, 1);
   Log({{3, "VE3EJ", "1", "1|VE3"}, {4, "K3ZZZ", "2", "4|K3"}, {3, "XE1ABC", "3", "2|XE1"}, {5, "DL1ABC", "4", "6|DL1"}});
   EXPECT_EQ(Totals(), "13 4 52 3:2/3/2 4:1/4/1 5:1/6/1");
-  EXPECT_EQ(ctx->Counters.SameContinentQSOs, 1);
+  EXPECT_EQ(ctx.Counters.SameContinentQSOs, 1);
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, ArrlDxCountriesFromUsVeAndStatesWithNeededBandsFromDx) {
+TEST_F(EntryScoringTest, ArrlDxCountriesFromUsVeAndStatesWithNeededBandsFromDx) {
   NewLog(ArrlDx, 0);
   Log({{3, "DL1ABC", "100", "3|DL"}, {3, "DL2XYZ", "KW", "3|DL"},   {4, "DL1ABC", "100", "3|DL"},
        {3, "VE3EJ", "100", "0|VE"},  {3, "TA1ABC", "100", "3|TA"},  {3, "KH6ABC", "100", "3|KH6"},
@@ -178,12 +157,12 @@ TEST_F(ScoringEntryTest, ArrlDxCountriesFromUsVeAndStatesWithNeededBandsFromDx) 
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, CaliforniaQsoPartyCountiesOnceCountyLineAndCaliforniaStation) {
+TEST_F(EntryScoringTest, CaliforniaQsoPartyCountiesOnceCountyLineAndCaliforniaStation) {
   NewLog(Cqp);  // out of state: the counties are the multipliers
   Log({{3, "K6AW", "1 ALA", "3|1"},    {11, "K6AW", "2 ALAM", "2|1"}, {3, "N6XX", "3 SDG/", "0|37"},
        {3, "N6XX", "3 ORG", "3|30"},   {4, "K6AW", "6 SCLA", "3|43"}, {4, "K6AW", "8 SCLA", "0|43"}});
   EXPECT_EQ(Totals(), "11 4 44 3:3/6/3 4:2/3/1 11:1/2/0");
-  EXPECT_EQ(ctx->Counters.CWQSOs * 10 + ctx->Counters.PhoneQSOs, 31);
+  EXPECT_EQ(ctx.Counters.CWQSOs * 10 + ctx.Counters.PhoneQSOs, 31);
   ExpectReplayEqual();
 
   NewLog(Cqp, -1, "", 0);  // in California: all counties are California
@@ -194,7 +173,7 @@ TEST_F(ScoringEntryTest, CaliforniaQsoPartyCountiesOnceCountyLineAndCaliforniaSt
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, SprintSweepstakesAndNaqpTableRowsWithoutBandPoints) {
+TEST_F(EntryScoringTest, SprintSweepstakesAndNaqpTableRowsWithoutBandPoints) {
   NewLog(Sprint);
   Log({{3, "K3ZZZ", "12 ALAN PA", "1|38"}, {3, "W1AW", "5 JOE CT", "1|7"},  {4, "K3ZZZ", "13 ALAN PA", "1|38"},
        {4, "KH6XX", "14 BOB HI", "1|HI"},  {3, "K3ZZZ", "15 ALAN PA", "0|38"}, {5, "VE3EJ", "16 GEO ON", "1|53"}});
@@ -217,29 +196,29 @@ TEST_F(ScoringEntryTest, SprintSweepstakesAndNaqpTableRowsWithoutBandPoints) {
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, PennsylvaniaTenthsAndNewEnglandByMode) {
+TEST_F(EntryScoringTest, PennsylvaniaTenthsAndNewEnglandByMode) {
   NewLog(Paqp);
   Log({{3, "K3ZZZ", "1 ALL", "3|2"}, {4, "W3AB", "2 ALLEG", "3|2"}, {5, "N3CD", "3 PHI", "2|51"},
        {11, "K3ZZZ", "4 BUC", "1|9"}, {3, "K3ZZZ", "5 ALL", "0|2"}});
   EXPECT_EQ(Totals(), "60 3 18 3:2/15/1 4:1/15/0 5:1/20/1 11:1/10/1");
-  EXPECT_EQ(ctx->Counters.CWQSOs * 10 + ctx->Counters.PhoneQSOs, 41);  // a dupe's 0 counts as CW
+  EXPECT_EQ(ctx.Counters.CWQSOs * 10 + ctx.Counters.PhoneQSOs, 41);  // a dupe's 0 counts as CW
   ExpectReplayEqual();
 
   NewLog(Neqp);
   Log({{3, "W1AW", "MIDCT", "2|4"}, {3, "K1AB", "fai", "2|1"}, {11, "K1CD", "MIDCT", "1|4"},
        {3, "W1AW", "MIDCT", "0|4"}, {4, "K1EF", "SUFMA", "2|21"}});
   EXPECT_EQ(Totals(), "7 3 21 3:3/4/2 4:1/2/1 11:1/1/0");
-  EXPECT_EQ(ctx->Counters.CWQSOs * 10 + ctx->Counters.PhoneQSOs, 31);
+  EXPECT_EQ(ctx.Counters.CWQSOs * 10 + ctx.Counters.PhoneQSOs, 31);
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, TenMeterStatesAndCountriesPerMode) {
+TEST_F(EntryScoringTest, TenMeterStatesAndCountriesPerMode) {
   NewLog(Ten);
   Log({{1, "K3ZZZ", "PA", "4|PA"},    {9, "K3ZZZ", "PA", "2|PA"},     {1, "W3ABC/T", "PA", "8|PA"},
        {1, "DL1ABC", "123", "4|DL"},  {9, "DL1ABC", "124", "2|DL"},   {1, "KH6ABC", "HI", "4|HI"},
        {1, "DL1ABC", "125", "0|DL"},  {9, "VE3EJ", "ON", "2|ON"}});
   EXPECT_EQ(Totals(), "26 6 156 1:5/20/1 9:3/6/1");
-  const ContestCounters& k = ctx->Counters;
+  const ContestCounters& k = ctx.Counters;
   EXPECT_EQ(k.TenCWMults * 1000 + k.TenSSBMults * 100 + k.CWQSOs * 10 + k.PhoneQSOs, 2234);
   EXPECT_EQ(Labels(1, "DL5ZZ"), "CW - Wkd\nPH - Wkd|blue|Fed. Rep. of Germany");
   EXPECT_EQ(Labels(1, "F5XYZ"), "CW - NEED\nPH - NEED|red|France");
@@ -247,7 +226,7 @@ TEST_F(ScoringEntryTest, TenMeterStatesAndCountriesPerMode) {
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, GenericCountsCountriesByModeAndAllAsianPrefixesPerBand) {
+TEST_F(EntryScoringTest, GenericCountsCountriesByModeAndAllAsianPrefixesPerBand) {
   NewLog(Generic);
   Log({{3, "K3ZZZ", "599 PA", "2|"}, {11, "K3ZZZ", "59 PA", "1|"}, {3, "DL1ABC", "599", "2|"},
        {4, "DL1ABC", "599", "2|"},   {3, "KH6ABC", "599", "2|"},   {11, "JA1XYZ", "59", "1|"}});
@@ -265,29 +244,12 @@ TEST_F(ScoringEntryTest, GenericCountsCountriesByModeAndAllAsianPrefixesPerBand)
   ExpectReplayEqual();
 }
 
-TEST_F(ScoringEntryTest, CwOpenCountsDistinctCalls) {
+TEST_F(EntryScoringTest, CwOpenCountsDistinctCalls) {
   NewLog(CwOpen);
   Log({{3, "K3ZZZ", "1 ALAN", "1|"}, {4, "K3ZZZ", "2 ALAN", "1|"}, {3, "W1AW", "3 JOE", "1|"},
        {3, "K3ZZZ", "4 ALAN", "0|"}, {3, "N5DX", "5 BOB", "1|"}});
   EXPECT_EQ(Totals(), "4 3 12 3:4/3/0 4:1/1/0");
   ExpectReplayEqual();
-}
-
-// The 151st prefix of a band finds no room in its column and counts as new
-// every time.
-TEST(AllAsianPrefixTable, AFullBandCountsEveryNewPrefixAgain) {
-  auto ctx = MakeContext("");
-  ctx->Contest.ContestIndex = AllAsian;
-  for (int row = 1; row <= PrefixRowsPerBand; ++row) ctx->Counters.PrefixTable150.At(row, 3) = "P" + std::to_string(row);
-  ScoringState s{ctx->Contest, ctx->Data, ctx->Countries, ctx->Tables, ctx->Counters, ctx->Log};
-  QsoRecord r;
-  r.QBand = 3;
-  EXPECT_FALSE(ScoreMultiplier(s, r, ReceivedFields{}, "P150", "").NewMult);
-  EXPECT_TRUE(ScoreMultiplier(s, r, ReceivedFields{}, "JA1", "").NewMult);
-  EXPECT_TRUE(ScoreMultiplier(s, r, ReceivedFields{}, "JA1", "").NewMult);
-  r.QBand = 4;
-  EXPECT_TRUE(ScoreMultiplier(s, r, ReceivedFields{}, "JA1", "").NewMult);
-  EXPECT_FALSE(ScoreMultiplier(s, r, ReceivedFields{}, "JA1", "").NewMult);
 }
 
 }  // namespace
