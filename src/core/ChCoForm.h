@@ -59,7 +59,7 @@ struct ContestChoice {
   int ModeButton = -1;      // 0 phone or 1 CW, where Frame1 is the mode
   int LocationButton = -1;  // 0 in or 1 out of the party's area, where Frame1 is the location
   int QthButton = -1;       // ButtonQTH 0..2: the station's location, or the CW Open's hours
-  std::string Continent;  // the ComboQTH entry, with the third location button
+  std::string Continent = {};  // the ComboQTH entry, with the third location button
 };
 
 // Makes the choice on the form: the contest, each button asked for, the

@@ -87,6 +87,7 @@ class LogForm {
       mnuViewCW{"CW &Messages"}, mnuViewDvK{"&Voice Keyer"};
   MenuItem mnuHelp{"&Help"}, mnuHelpAbout{"&About TARNIX..."};
   std::unique_ptr<Timer> Timer1;  // the clock, every 1000 ms
+  int16_t ClockTicks = 0;         // every tenth tick updates the statistics
   // Called when the form changed by itself (a timer), so a view redraws.
   std::function<void()> Changed;
 
@@ -162,20 +163,6 @@ class LogForm {
   // The last scan of the log for a call: found, dupe, the QSO it dupes and
   // the bands it was worked on, as the dupe line and the grid show them.
   const DupeResult& DupeScan() const { return Scan; }
-
-  // (Still public for the tests that set them; they go private with the tests' move.)
-  int16_t TUInterval = 1, TUCount = 1;  // the F5 and F6 rotation after a QSO
-  int16_t ClockTicks = 0;         // every tenth tick updates the statistics
-
-  // ---- Keyboard state (EntryKeys.cpp, EntryTextCommands.cpp) ----
-  bool BackslashPressed = false, BracketPressed = false;  // set just before key-down
-  std::array<std::string, 6> CallStack;  // the calls of Alt-M, rows 1..5, newest first
-  int16_t CallStackPos = 0;              // the row last recalled, 1..5
-  int KeyboardCWBox = CallBox;           // where Caps Lock returns to
-  int KeyboardCWCaret = 0;
-  int16_t StoRadio = 0;                  // the STO memory; radio 0: nothing stored
-  float StoFreq = 0;
-  int16_t StoBand = 0;
 
  private:
   // Entry steps (ProcessEntry.cpp, EntryParsers.cpp, EntryDupes.cpp,
@@ -281,6 +268,17 @@ class LogForm {
   std::optional<std::string> ScannedCall;  // its call, while nothing changed the answer
   std::string LastLine;           // the last "Last: " line, for a reload
   bool ApostropheLogged = false;  // logging was started by the apostrophe key
+  int16_t TUInterval = 1, TUCount = 1;  // the F5 and F6 rotation after a QSO
+
+  // ---- Keyboard state (EntryKeys.cpp, EntryTextCommands.cpp) ----
+  bool BackslashPressed = false, BracketPressed = false;  // set just before key-down
+  std::array<std::string, 6> CallStack;  // the calls of Alt-M, rows 1..5, newest first
+  int16_t CallStackPos = 0;              // the row last recalled, 1..5
+  int KeyboardCWBox = CallBox;           // where Caps Lock returns to
+  int KeyboardCWCaret = 0;
+  int16_t StoRadio = 0;                  // the STO memory; radio 0: nothing stored
+  float StoFreq = 0;
+  int16_t StoBand = 0;
 
   Context& Ctx;
   Platform& Desk;

@@ -87,7 +87,8 @@ std::string ScriptedLogger::Boxes() const {
     const TextBox& b = Form.InData[static_cast<std::size_t>(box)];
     std::string t = b.Text;
     if (Form.FocusedBox == box) t.insert(static_cast<std::size_t>(b.SelStart), "_");
-    text += (box == ExchangeBox ? "|" : "") + t;
+    if (box == ExchangeBox) text += '|';
+    text += t;
   }
   return text;
 }

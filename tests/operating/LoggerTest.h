@@ -29,7 +29,9 @@ class LoggerTestOf : public ::testing::Test {
 
   // A new log over the one open, which is not kept.
   void NewLog(const ContestChoice& choice) {
-    if (How == ScriptedLogger::Start::Program) ASSERT_TRUE(run.Started);
+    if (How == ScriptedLogger::Start::Program) {
+      ASSERT_TRUE(run.Started);
+    }
     if (ctx.Log.LogState != LogStateKind::None)
       desk.Boxes.Answers.push_back(ctx.Log.LogState == LogStateKind::Named ? MsgAnswer::Yes : MsgAnswer::No);
     run.NewLog(choice);
