@@ -1,5 +1,7 @@
 #include "operating/ScriptedLogger.h"
 
+#include <algorithm>
+
 #include "operating/BoxEditing.h"
 #include "operating/Keys.h"
 #include "operating/Startup.h"
@@ -86,7 +88,10 @@ std::string ScriptedLogger::Boxes() const {
   for (int box : {CallBox, ExchangeBox}) {
     const TextBox& b = Form.InData[static_cast<std::size_t>(box)];
     std::string t = b.Text;
-    if (Form.FocusedBox == box) t.insert(static_cast<std::size_t>(b.SelStart), "_");
+    if (Form.FocusedBox == box) {
+      std::size_t caret = std::min(static_cast<std::size_t>(std::max(b.SelStart, 0)), t.size());
+      t = t.substr(0, caret) + '_' + t.substr(caret);
+    }
     if (box == ExchangeBox) text += '|';
     text += t;
   }
