@@ -1,6 +1,7 @@
 // The main form's set-up and its File and Edit commands.
 
 #include <filesystem>
+#include <vector>
 
 #include "core/BandMode.h"
 #include "core/ChCoForm.h"

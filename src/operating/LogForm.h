@@ -26,12 +26,11 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "core/QsoRecord.h"
 #include "operating/Context.h"
-#include "operating/LogDocument.h"
 #include "operating/Keys.h"
+#include "operating/LogDocument.h"
 #include "operating/Station.h"
 #include "platform/Controls.h"
 #include "platform/Platform.h"
