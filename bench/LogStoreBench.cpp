@@ -50,7 +50,7 @@ void BM_ProcessEntryFullLog(benchmark::State& state) {
     run.NewLog(Generic);
     state.ResumeTiming();
     for (const std::string& call : calls) {
-      run.Enter(call, "599 NOTES");
+      run.Enter(call, "599 NOTES", ScriptedLogger::Input::Pasted);
       run.Desk.Time.Advance(10 * 1000);
     }
     benchmark::DoNotOptimize(run.Ctx.Log.QSOCount);
