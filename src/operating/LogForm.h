@@ -264,7 +264,10 @@ class LogForm {
   QsoRecord EntryRecord;          // the record being built; keeps its values
   ReceivedFields Received;        // the last parse's fields (a refusal leaves the rest)
   DupeResult Scan;                // the last scan of the log for a call
-  std::optional<std::string> ScannedCall;  // its call, while nothing changed the answer
+  // The call of that scan, while nothing changed its answer: a logged QSO
+  // and the form's own band, mode and radio changes reset it, and so must
+  // anything else that moves BandIndex (the radio polling).
+  std::optional<std::string> ScannedCall;
   std::string LastLine;           // the last "Last: " line, for a reload
   bool ApostropheLogged = false;  // logging was started by the apostrophe key
   int16_t TUInterval = 1, TUCount = 1;  // the F5 and F6 rotation after a QSO
